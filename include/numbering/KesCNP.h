@@ -1,0 +1,35 @@
+#ifndef NUMBERING_KESCNP_H
+#define NUMBERING_KESCNP_H
+
+#include "numbering/ReferenceCount.h"
+
+#include <string>
+
+namespace numbering {
+
+class KesDialRulesItem;
+
+/// A country numbering plan: knows which leading digits of a national number form an area code
+/// and writes national numbers in canonical form. A plan never fails: a number it cannot place
+/// comes back unchanged. Plans are made by KesCNPFactory and cached by KesCNPManager.
+class KesCNP {
+public:
+    KesCNP() = default;
+    virtual ~KesCNP();
+
+    /// The canonical form of `number` (digits as dialled at the installation described by `rules`),
+    /// or `number` unchanged. `rules` must not be null.
+    virtual std::string dlr_Country_MakeCanonicalNumber(std::string number, KesDialRulesItem* rules) = 0;
+    virtual void duplicate();
+    virtual void release();
+
+    /// Live plans of every country, for leak diagnostics.
+    static int _count;
+
+private:
+    ReferenceCount<KesCNP> references;
+};
+
+} // namespace numbering
+
+#endif

@@ -1,0 +1,23 @@
+#ifndef NUMBERING_KESCNP_1_H
+#define NUMBERING_KESCNP_1_H
+
+#include "numbering/KesCNP.h"
+
+class Logger;
+
+namespace numbering {
+
+/// The numbering plan of calling code 1.
+class KesCNP_1 : public KesCNP {
+public:
+    KesCNP_1();
+    ~KesCNP_1() override;
+
+    std::string dlr_Country_MakeCanonicalNumber(std::string number, KesDialRulesItem* rules) override;
+
+    static Logger* logger;
+};
+
+} // namespace numbering
+
+#endif

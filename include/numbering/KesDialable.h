@@ -1,0 +1,56 @@
+#ifndef NUMBERING_KESDIALABLE_H
+#define NUMBERING_KESDIALABLE_H
+
+#include "numbering/ReferenceCount.h"
+
+#include <string>
+
+class Logger;
+
+namespace numbering {
+
+class KesCountryRuleItem;
+class KesDialRulesItem;
+
+/// A dialing strategy: turns the fields of a canonical number (country calling code, area code or
+/// national prefix, subscriber number) into the digits to dial from the installation's country.
+/// This generic strategy follows the installation country's rule letters: "E" puts the country
+/// code, "F" the prefix and the area code, "I" the prefix alone. Countries whose dialing the
+/// letters cannot express have subclasses. The country rule passed is always the installation's.
+class KesDialable {
+public:
+    KesDialable();
+    virtual ~KesDialable();
+
+    virtual std::string makeInternationalDialableNumber(std::string& country, std::string& areaNatPfx,
+                                                        std::string& number, KesCountryRuleItem* countryRule);
+    virtual std::string makeLongDistDialableNumber(std::string& areaNatPfx, std::string& number,
+                                                   KesCountryRuleItem* countryRule, KesDialRulesItem* dialRules);
+    virtual std::string makeLocalDialableNumber(std::string& areaNatPfx, std::string& number,
+                                                KesCountryRuleItem* countryRule);
+    virtual void duplicate();
+    virtual void release();
+    /// The operator (carrier) prefix that `number` begins with; none in the generic strategy.
+    virtual std::string extractOperatorPrefix(std::string number);
+
+    /// Live strategies of every country, for leak diagnostics.
+    static int _count;
+    static Logger* logger;
+
+protected:
+    /// Puts `prefix` in front of `result` unless `result` already begins with it or with a leading
+    /// part of it, which is completed rather than doubled ("0" and "01234" stay "01234").
+    static void mergePrefix(std::string& result, const std::string& prefix);
+    /// A result string with room for the longest dialable number.
+    static std::string reservedResult();
+
+private:
+    std::string applyRule(const std::string& rule, const std::string& prefix, const std::string& areaNatPfx,
+                          const std::string& number) const;
+
+    ReferenceCount<KesDialable> references;
+};
+
+} // namespace numbering
+
+#endif

@@ -1,0 +1,21 @@
+#ifndef NUMBERING_KESUNSUPPORTEDCOUNTRYEXCEPTION_H
+#define NUMBERING_KESUNSUPPORTEDCOUNTRYEXCEPTION_H
+
+#include <stdexcept>
+#include <string>
+
+namespace numbering {
+
+/// A country code that the dialing rules do not know. The standard base is private on purpose:
+/// handlers for std::runtime_error or std::exception do not catch it, only a handler for this class.
+class KesUnsupportedCountryException : private std::runtime_error {
+public:
+    explicit KesUnsupportedCountryException(std::string countryCode);
+    KesUnsupportedCountryException(std::string countryCode, std::string reason);
+
+    using std::runtime_error::what;
+};
+
+} // namespace numbering
+
+#endif

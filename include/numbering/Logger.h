@@ -1,0 +1,34 @@
+#ifndef NUMBERING_LOGGER_H
+#define NUMBERING_LOGGER_H
+
+#include <string>
+
+/// The host process's log sink. The library always passes 1 as `value`.
+/// A host defines it; the library carries a weak fallback that writes the line to standard error.
+void FlogWrite(const char* text, short value);
+
+/// One named diagnostic channel. Every class of the library owns one, made once during static
+/// initialisation and never destroyed. Lines are "LEVEL name - message", handed to FlogWrite.
+class Logger {
+public:
+    /// Debug tracing switch, owned by the host (the library only reads it). Every debug call site
+    /// tests it first, so that no debug text is built while tracing is off.
+    static bool m_Traces;
+
+    /// Returns a new logger bearing `name`; every call makes a distinct object, even for a known name.
+    static Logger* getLogger(std::string name);
+
+    virtual ~Logger();
+
+    void debug(std::string message);
+    void info(std::string message);
+    void error(std::string message);
+
+    std::string name;
+
+private:
+    explicit Logger(std::string loggerName);
+    void write(const char* level, const std::string& message) const;
+};
+
+#endif

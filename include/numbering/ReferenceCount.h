@@ -1,0 +1,29 @@
+#ifndef NUMBERING_REFERENCECOUNT_H
+#define NUMBERING_REFERENCECOUNT_H
+
+namespace numbering {
+
+/// The intrusive reference count of the library's shared objects (held in Poco::AutoPtr).
+/// A member of this type gives its owner a count of 1 at construction and keeps the owner's
+/// static live-instance counter `Owner::_count` up to date. The arithmetic is plain, not atomic:
+/// shared objects are built before concurrent use and only read afterwards.
+template <class Owner> class ReferenceCount {
+public:
+    ReferenceCount() noexcept { ++Owner::_count; }
+    // A copied object is a new instance with its own single reference.
+    ReferenceCount(const ReferenceCount&) noexcept { ++Owner::_count; }
+    ReferenceCount& operator=(const ReferenceCount&) noexcept { return *this; }
+    ~ReferenceCount() { --Owner::_count; }
+
+    void duplicate() noexcept { ++references; }
+    /// True when the last reference went: the owner then deletes itself.
+    bool release() noexcept { return --references == 0; }
+    int count() const noexcept { return references; }
+
+private:
+    int references = 1;
+};
+
+} // namespace numbering
+
+#endif

@@ -1,0 +1,94 @@
+#include "numbering/KesDialable.h"
+
+#include "numbering/KesCountryRuleItem.h"
+#include "numbering/KesNumberingConfig.h"
+#include "numbering/Logger.h"
+
+#include <typeinfo>
+
+namespace numbering {
+
+int KesDialable::_count = 0;
+Logger* KesDialable::logger = Logger::getLogger(typeid(KesDialable).name());
+
+KesDialable::KesDialable() {
+    if (Logger::m_Traces)
+        logger->debug("KesDialable()");
+}
+
+KesDialable::~KesDialable() = default;
+
+void KesDialable::duplicate() { references.duplicate(); }
+
+void KesDialable::release() {
+    if (references.release())
+        delete this;
+}
+
+std::string KesDialable::extractOperatorPrefix(std::string) { return std::string(); }
+
+std::string KesDialable::reservedResult() {
+    std::string result;
+    result.reserve(KesNumberingConfig::MAX_PHONE_NUMBER_LENGTH);
+    return result;
+}
+
+void KesDialable::mergePrefix(std::string& result, const std::string& prefix) {
+    for (std::string::size_type i = 0; i < prefix.size(); ++i)
+        if (i >= result.size() || result[i] != prefix[i])
+            result.insert(i, 1, prefix[i]);
+}
+
+std::string KesDialable::makeInternationalDialableNumber(std::string& country, std::string& areaNatPfx,
+                                                         std::string& number, KesCountryRuleItem* countryRule) {
+    std::string result = reservedResult();
+    result = countryRule->getInternatPfx();
+    std::string rule = countryRule->getInternatRule();
+    if (rule.find('E') != std::string::npos)
+        result += country;
+    if (rule.find('F') != std::string::npos) {
+        // A canonical number that carries the destination's national prefix in place of an area
+        // code loses it: only an exact match counts.
+        KesNumberingConfig* config = KesNumberingConfig::getInstance();
+        KesCountryRuleItem* destination = config->getCountryRule(config->getCountryCodeFromNumber(country));
+        if (destination != nullptr) {
+            std::string destinationPrefix = destination->getLongDistPrefix();
+            if (!destinationPrefix.empty() && areaNatPfx == destinationPrefix)
+                areaNatPfx.clear();
+        }
+        result += areaNatPfx;
+    }
+    result += number;
+    return result;
+}
+
+std::string KesDialable::applyRule(const std::string& rule, const std::string& prefix,
+                                   const std::string& areaNatPfx, const std::string& number) const {
+    std::string result = reservedResult();
+    result = number;
+    if (rule.empty())
+        return result;
+    bool withArea = rule.find('F') != std::string::npos;
+    if (withArea)
+        result.insert(0, areaNatPfx);
+    if (withArea || rule.find('I') != std::string::npos)
+        mergePrefix(result, prefix);
+    return result;
+}
+
+std::string KesDialable::makeLongDistDialableNumber(std::string& areaNatPfx, std::string& number,
+                                                    KesCountryRuleItem* countryRule, KesDialRulesItem*) {
+    std::string result =
+        applyRule(countryRule->getLongDistRule(), countryRule->getLongDistPrefix(), areaNatPfx, number);
+    if (Logger::m_Traces)
+        logger->debug("makeLongDistDialableNumber() AreaNatPfx: '" + areaNatPfx + "' dest: " + number +
+                      " result: " + result);
+    return result;
+}
+
+std::string KesDialable::makeLocalDialableNumber(std::string& areaNatPfx, std::string& number,
+                                                 KesCountryRuleItem* countryRule) {
+    return applyRule(countryRule->getLocalRule(), countryRule->getLocalDistPrefix(), areaNatPfx, number);
+}
+
+} // namespace numbering

@@ -1,0 +1,52 @@
+#include "numbering/KesDialableManager.h"
+
+#include "numbering/KesDialableFactory.h"
+#include "numbering/Logger.h"
+
+#include <typeinfo>
+
+namespace numbering {
+
+KesDialableManager* KesDialableManager::instance = nullptr;
+Logger* KesDialableManager::logger = Logger::getLogger(typeid(KesDialableManager).name());
+
+KesDialableManager* KesDialableManager::getInstance() {
+    if (Logger::m_Traces)
+        logger->debug("getInstance()");
+    if (instance == nullptr)
+        instance = new KesDialableManager();
+    return instance;
+}
+
+void KesDialableManager::resetInstance() {
+    delete instance;
+    instance = nullptr;
+}
+
+KesDialableManager::KesDialableManager() {
+    if (Logger::m_Traces)
+        logger->debug("KesDialableManager()");
+}
+
+KesDialableManager::~KesDialableManager() = default;
+
+KesDialable* KesDialableManager::getDialable(std::string countryNumber) {
+    if (Logger::m_Traces)
+        logger->debug("getDialable('" + countryNumber + "')");
+    auto found = strategies.find(countryNumber);
+    if (found != strategies.end())
+        return found->second.get();
+    return loadDialableClass(countryNumber);
+}
+
+KesDialable* KesDialableManager::loadDialableClass(std::string countryNumber) {
+    if (Logger::m_Traces)
+        logger->debug(countryNumber.empty() ? std::string("loadDialableClass('strCountryNumber=NULL')")
+                                            : "loadDialableClass('" + countryNumber + "')");
+    if (countryNumber.empty())
+        return nullptr;
+    Poco::AutoPtr<KesDialable> strategy(KesDialableFactory::CreateInstance(countryNumber));
+    return strategies.insert(std::make_pair(countryNumber, strategy)).first->second.get();
+}
+
+} // namespace numbering

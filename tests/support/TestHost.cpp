@@ -1,0 +1,35 @@
+#include "TestHost.h"
+
+#include "numbering/Logger.h"
+
+#include <algorithm>
+
+bool Logger::m_Traces = false;
+
+void FlogWrite(const char* text, short /*value*/) { testhost::lines().emplace_back(text); }
+
+namespace testhost {
+
+std::vector<std::string>& lines() {
+    static std::vector<std::string> received;
+    return received;
+}
+
+void clear() { lines().clear(); }
+
+int countLogged(const std::string& text) {
+    return static_cast<int>(std::count_if(lines().begin(), lines().end(), [&](const std::string& line) {
+        return line.find(text) != std::string::npos;
+    }));
+}
+
+bool logged(const std::string& text) { return countLogged(text) > 0; }
+
+Tracing::Tracing(bool on) : previous(Logger::m_Traces) {
+    Logger::m_Traces = on;
+    clear();
+}
+
+Tracing::~Tracing() { Logger::m_Traces = previous; }
+
+} // namespace testhost
