@@ -5,10 +5,21 @@
 
 namespace numbering {
 
-/// The dialing strategy of calling code 52.
+/// The dialing strategy of Mexico (calling code 52). A mobile number is written with "1" before
+/// its area code and is dialled with "044" inside the installation's own area and "045" from
+/// elsewhere; every other national number takes the long-distance prefix.
 class KesDialable_52 : public KesDialable {
 public:
-    KesDialable_52() = default;
+    KesDialable_52();
+
+    std::string makeLongDistDialableNumber(std::string& areaNatPfx, std::string& number,
+                                           KesCountryRuleItem* countryRule,
+                                           KesDialRulesItem* dialRules) override;
+
+    static std::string PREFIX_MOBILE;
+    static std::string PREFIX_MOBILE_LOCAL;
+    static std::string PREFIX_MOBILE_DISTANT;
+    static Logger* logger;
 };
 
 } // namespace numbering

@@ -5,10 +5,17 @@
 
 namespace numbering {
 
-/// The dialing strategy of calling code 61.
+/// The dialing strategy of Australia (calling code 61). National numbers are dialled with a
+/// literal "0" in front, except the "1" service numbers and numbers that already carry the "0".
 class KesDialable_61 : public KesDialable {
 public:
-    KesDialable_61() = default;
+    KesDialable_61();
+
+    std::string makeLongDistDialableNumber(std::string& areaNatPfx, std::string& number,
+                                           KesCountryRuleItem* countryRule,
+                                           KesDialRulesItem* dialRules) override;
+
+    static Logger* logger;
 };
 
 } // namespace numbering

@@ -5,10 +5,19 @@
 
 namespace numbering {
 
-/// The dialing strategy of calling code 7.
+/// The dialing strategy of Russia (calling code 7). A national number gets the long-distance
+/// prefix only when it then makes exactly eleven digits, the length of a complete national
+/// number with its prefix; anything else is dialled as it stands.
 class KesDialable_7 : public KesDialable {
 public:
-    KesDialable_7() = default;
+    KesDialable_7();
+
+    /// Takes the prefix from the "RU" row of the dialing rules, not from `countryRule`.
+    std::string makeLongDistDialableNumber(std::string& areaNatPfx, std::string& number,
+                                           KesCountryRuleItem* countryRule,
+                                           KesDialRulesItem* dialRules) override;
+
+    static Logger* logger;
 };
 
 } // namespace numbering
