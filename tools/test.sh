@@ -1,10 +1,12 @@
 #!/usr/bin/env bash
-# Sets up a fresh Debian 12 machine (as root) with what the build needs, then configures, builds
-# and runs every test of the library.
+# Sets up a fresh Debian 12 machine (as root) with what the build needs, then builds and runs every
+# test of the library three ways: the normal build, the whole suite under AddressSanitizer and UBSan
+# (with a short run of each fuzzer), and the concurrency test under ThreadSanitizer.
 set -euo pipefail
 cd "$(dirname "$0")/.."
 
-packages=(cmake make g++ python3 libpoco-dev libgtest-dev libgmock-dev libbenchmark-dev)
+packages=(cmake make g++ clang libclang-rt-14-dev pkg-config python3
+          libpoco-dev libgtest-dev libgmock-dev libbenchmark-dev)
 missing=()
 for package in "${packages[@]}"; do
   dpkg -s "$package" >/dev/null 2>&1 || missing+=("$package")
@@ -15,6 +17,33 @@ if [ ${#missing[@]} -gt 0 ]; then
 fi
 
 jobs=$(nproc)
-cmake -S . -B build -DCMAKE_BUILD_TYPE=RelWithDebInfo -DNUMBERING_BUILD_BENCH=ON
+fuzz_seconds=${NUMBERING_FUZZ_SECONDS:-30}
+
+echo "== normal build"
+cmake -S . -B build -DCMAKE_BUILD_TYPE=RelWithDebInfo -DNUMBERING_BUILD_BENCH=ON >/dev/null
 cmake --build build -j"$jobs"
 ctest --test-dir build -j"$jobs" --output-on-failure
+
+echo "== AddressSanitizer and UBSan build, with the fuzzers"
+CXX=clang++ cmake -S . -B build-sanitize -DCMAKE_BUILD_TYPE=Debug -DNUMBERING_SANITIZE=address,undefined \
+  -DNUMBERING_BUILD_FUZZ=ON >/dev/null
+cmake --build build-sanitize -j"$jobs"
+ASAN_OPTIONS=detect_leaks=1 ctest --test-dir build-sanitize -j"$jobs" --output-on-failure
+for target in conversions property_files; do
+  corpus=$(mktemp -d)
+  log=$(mktemp)
+  cp fuzz/corpus/"$target"/* "$corpus"/
+  if ! ./build-sanitize/fuzz/fuzz_"$target" -max_total_time="$fuzz_seconds" -max_len=4096 \
+      -print_final_stats=1 "$corpus" >"$log" 2>&1; then
+    tail -n 60 "$log"
+    echo "fuzz_$target found a fault"
+    exit 1
+  fi
+  echo "fuzz_$target: $(grep -E '^stat::number_of_executed_units' "$log") in ${fuzz_seconds}s"
+  rm -rf "$corpus" "$log"
+done
+
+echo "== ThreadSanitizer build of the concurrency test"
+CXX=clang++ cmake -S . -B build-tsan -DCMAKE_BUILD_TYPE=RelWithDebInfo -DNUMBERING_SANITIZE=thread >/dev/null
+cmake --build build-tsan -j"$jobs" --target test_concurrency
+TSAN_OPTIONS=halt_on_error=1 ctest --test-dir build-tsan -R '^concurrency$' --output-on-failure

@@ -3,10 +3,18 @@
 #include "numbering/Logger.h"
 
 #include <algorithm>
+#include <mutex>
 
 bool Logger::m_Traces = false;
 
-void FlogWrite(const char* text, short /*value*/) { testhost::lines().emplace_back(text); }
+namespace {
+std::mutex linesMutex; // a host's sink must take lines from several threads at once
+}
+
+void FlogWrite(const char* text, short /*value*/) {
+    std::lock_guard<std::mutex> lock(linesMutex);
+    testhost::lines().emplace_back(text);
+}
 
 namespace testhost {
 

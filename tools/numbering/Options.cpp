@@ -1,0 +1,100 @@
+#include "Options.h"
+
+#include <cctype>
+#include <cstdlib>
+#include <stdexcept>
+
+const char* const USAGE =
+    "usage: numbering [options] <command> [number ...]\n"
+    "\n"
+    "Converts telephone numbers for an installation of a private exchange. Numbers come from the\n"
+    "arguments, or one per line from standard input (then each output line is the input, a tab and\n"
+    "the result).\n"
+    "\n"
+    "commands:\n"
+    "  canonical   typed number -> canonical international form, laid out with the country's mask\n"
+    "  dial        number -> digits the exchange dials, with the outside-line prefix where needed\n"
+    "  clid        calling number -> presented number and origin (tab-separated)\n"
+    "  gsm         number -> compact international form (+ and digits)\n"
+    "  format      canonical number -> laid out with --pattern or the country's mask\n"
+    "  decompose   canonical number -> country number, area code, subscriber number (tab-separated)\n"
+    "\n"
+    "installation (defaults in brackets):\n"
+    "  -c, --country CC          ISO 3166 alpha-2 country of the installation [FR]\n"
+    "  -x, --ext-prefix DIGITS   prefix that seizes an outside line [0]\n"
+    "  -a, --area-codes LIST     the installation's own area codes, comma-separated []\n"
+    "  -l, --local-length N      numbers shorter than N are internal extensions [0]\n"
+    "      --except-length N     length of exception numbers [0]\n"
+    "      --except-begin DIGITS leading digits of numbers dialled without the outside-line prefix []\n"
+    "\n"
+    "other options:\n"
+    "  -p, --pattern MASK        display mask for canonical and format (letters C, A, a, x)\n"
+    "      --config-dir DIR      configuration directory [NUMBERING_CONFIG_DIR, else the shipped one]\n"
+    "      --trace               write the library's debug lines to standard error\n"
+    "  -h, --help                this text\n";
+
+namespace {
+
+int toLength(const std::string& option, const std::string& value) {
+    char* end = nullptr;
+    long length = std::strtol(value.c_str(), &end, 10);
+    if (value.empty() || *end != '\0' || length < 0 || length > 1000)
+        throw std::invalid_argument("option " + option + " wants a whole number from 0 to 1000, not '" + value + "'");
+    return static_cast<int>(length);
+}
+
+} // namespace
+
+Options parseOptions(int argc, char** argv) {
+    Options options;
+    std::vector<std::string> positional;
+    for (int i = 1; i < argc; ++i) {
+        std::string argument = argv[i];
+        auto value = [&]() -> std::string {
+            if (i + 1 >= argc)
+                throw std::invalid_argument("option " + argument + " wants a value");
+            return argv[++i];
+        };
+        if (argument == "-h" || argument == "--help")
+            options.help = true;
+        else if (argument == "--trace")
+            options.trace = true;
+        else if (argument == "-c" || argument == "--country")
+            options.country = value();
+        else if (argument == "-x" || argument == "--ext-prefix")
+            options.extPrefix = value();
+        else if (argument == "-a" || argument == "--area-codes")
+            options.areaCodes = value();
+        else if (argument == "-l" || argument == "--local-length")
+            options.localLength = toLength(argument, value());
+        else if (argument == "--except-length")
+            options.exceptLength = toLength(argument, value());
+        else if (argument == "--except-begin")
+            options.exceptBegin = value();
+        else if (argument == "-p" || argument == "--pattern")
+            options.pattern = value();
+        else if (argument == "--config-dir")
+            options.configDir = value();
+        else if (argument == "--")
+            positional.insert(positional.end(), argv + i + 1, argv + argc), i = argc;
+        else if (argument.size() > 1 && argument[0] == '-' && argument[1] == '-')
+            throw std::invalid_argument("unknown option " + argument);
+        else if (argument.size() == 2 && argument[0] == '-' && argument[1] != '+' && !std::isdigit(argument[1]))
+            throw std::invalid_argument("unknown option " + argument);
+        else
+            positional.push_back(argument);
+    }
+    if (options.help)
+        return options;
+    if (positional.empty())
+        throw std::invalid_argument("no command given");
+    options.command = positional.front();
+    static const char* const commands[] = {"canonical", "dial", "clid", "gsm", "format", "decompose"};
+    bool known = false;
+    for (const char* command : commands)
+        known = known || options.command == command;
+    if (!known)
+        throw std::invalid_argument("unknown command '" + options.command + "'");
+    options.numbers.assign(positional.begin() + 1, positional.end());
+    return options;
+}

@@ -1,0 +1,28 @@
+#ifndef NUMBERING_TOOLS_OPTIONS_H
+#define NUMBERING_TOOLS_OPTIONS_H
+
+#include <string>
+#include <vector>
+
+/// What the command line asks for.
+struct Options {
+    std::string command;
+    std::vector<std::string> numbers; // empty: read them from standard input, one per line
+    std::string country = "FR";
+    std::string extPrefix = "0";
+    std::string areaCodes;
+    int localLength = 0;
+    int exceptLength = 0;
+    std::string exceptBegin;
+    std::string pattern;
+    std::string configDir; // empty: NUMBERING_CONFIG_DIR if set, else the shipped configuration
+    bool trace = false;
+    bool help = false;
+};
+
+/// Parses argv; throws std::invalid_argument with a message for the user on a bad command line.
+Options parseOptions(int argc, char** argv);
+
+extern const char* const USAGE;
+
+#endif
