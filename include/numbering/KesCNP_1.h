@@ -7,7 +7,9 @@ class Logger;
 
 namespace numbering {
 
-/// The numbering plan of calling code 1.
+/// The numbering plan of calling code 1. Reads no file: seven-digit local and ten-digit national
+/// numbers, each optionally behind a one-character "0" or "1", are recognised by their length and
+/// by area and exchange codes never beginning with 0 or 1.
 class KesCNP_1 : public KesCNP {
 public:
     KesCNP_1();

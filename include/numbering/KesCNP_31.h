@@ -1,14 +1,17 @@
 #ifndef NUMBERING_KESCNP_31_H
 #define NUMBERING_KESCNP_31_H
 
-#include "numbering/KesCNP.h"
+#include "numbering/KesAreaCodePlan.h"
+
+#include <string>
 
 class Logger;
 
 namespace numbering {
 
-/// The numbering plan of calling code 31.
-class KesCNP_31 : public KesCNP {
+/// The numbering plan of calling code 31: national numbers split at a known area code, else written
+/// with the national prefix "(0)"; numbers without national prefix completed with the own area code.
+class KesCNP_31 : public KesAreaCodePlan {
 public:
     KesCNP_31();
     ~KesCNP_31() override;
@@ -16,6 +19,9 @@ public:
     std::string dlr_Country_MakeCanonicalNumber(std::string number, KesDialRulesItem* rules) override;
 
     static Logger* logger;
+    /// "tz310cnp_31.properties" and "tz310cnp_31_default.properties" in the configuration directory.
+    static std::string AREA_CODES_FILE;
+    static std::string AREA_CODES_DEFAULT_FILE;
 };
 
 } // namespace numbering

@@ -1,14 +1,17 @@
 #ifndef NUMBERING_KESCNP_32_H
 #define NUMBERING_KESCNP_32_H
 
-#include "numbering/KesCNP.h"
+#include "numbering/KesAreaCodePlan.h"
+
+#include <string>
 
 class Logger;
 
 namespace numbering {
 
-/// The numbering plan of calling code 32.
-class KesCNP_32 : public KesCNP {
+/// The numbering plan of calling code 32: national numbers of nine digits or more split at a known
+/// area code, else written with the national prefix "(0)"; other numbers are left as they are.
+class KesCNP_32 : public KesAreaCodePlan {
 public:
     KesCNP_32();
     ~KesCNP_32() override;
@@ -16,6 +19,9 @@ public:
     std::string dlr_Country_MakeCanonicalNumber(std::string number, KesDialRulesItem* rules) override;
 
     static Logger* logger;
+    /// "tz310cnp_32.properties" and "tz310cnp_32_default.properties" in the configuration directory.
+    static std::string AREA_CODES_FILE;
+    static std::string AREA_CODES_DEFAULT_FILE;
 };
 
 } // namespace numbering

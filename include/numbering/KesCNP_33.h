@@ -7,7 +7,11 @@ class Logger;
 
 namespace numbering {
 
-/// The numbering plan of calling code 33.
+class KesNumberingConfig;
+
+/// The numbering plan of calling code 33: closed numbering of ten digits with the national prefix.
+/// The canonical form keeps the national prefix digit in parentheses: 0123456789 is +33 (0) 123456789.
+/// Reads no file; the national prefix is the long-distance prefix of the dialing rules.
 class KesCNP_33 : public KesCNP {
 public:
     KesCNP_33();
@@ -16,6 +20,8 @@ public:
     std::string dlr_Country_MakeCanonicalNumber(std::string number, KesDialRulesItem* rules) override;
 
     static Logger* logger;
+    /// The configuration store; cleared when the store is destroyed (then fetched again on use).
+    static KesNumberingConfig* config;
 };
 
 } // namespace numbering

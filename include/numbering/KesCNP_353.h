@@ -1,14 +1,17 @@
 #ifndef NUMBERING_KESCNP_353_H
 #define NUMBERING_KESCNP_353_H
 
-#include "numbering/KesCNP.h"
+#include "numbering/KesAreaCodePlan.h"
+
+#include <string>
 
 class Logger;
 
 namespace numbering {
 
-/// The numbering plan of calling code 353.
-class KesCNP_353 : public KesCNP {
+/// The numbering plan of calling code 353: national numbers split at a known area code, else at their
+/// first two digits; numbers without national prefix completed with the own area code.
+class KesCNP_353 : public KesAreaCodePlan {
 public:
     KesCNP_353();
     ~KesCNP_353() override;
@@ -16,6 +19,9 @@ public:
     std::string dlr_Country_MakeCanonicalNumber(std::string number, KesDialRulesItem* rules) override;
 
     static Logger* logger;
+    /// "tz310cnp_353.properties" and "tz310cnp_353_default.properties" in the configuration directory.
+    static std::string AREA_CODES_FILE;
+    static std::string AREA_CODES_DEFAULT_FILE;
 };
 
 } // namespace numbering

@@ -7,13 +7,19 @@ class Logger;
 
 namespace numbering {
 
-/// The numbering plan of calling code 41.
+/// The numbering plan of calling code 41. Reads no file: national numbers are recognised by their
+/// length (9 or 10 characters, directly or behind the outside-line prefix) and a few prefixes.
 class KesCNP_41 : public KesCNP {
 public:
     KesCNP_41();
     ~KesCNP_41() override;
 
     std::string dlr_Country_MakeCanonicalNumber(std::string number, KesDialRulesItem* rules) override;
+
+    /// National prefix 0 followed by the one-digit area code 1.
+    static constexpr char szLocalNumberPfx[] = "01";
+    /// National free-phone prefix.
+    static constexpr char szFreePhonePfx[] = "0800";
 
     static Logger* logger;
 };

@@ -1,21 +1,30 @@
 #ifndef NUMBERING_KESCNP_43_H
 #define NUMBERING_KESCNP_43_H
 
-#include "numbering/KesCNP.h"
+#include "numbering/KesAreaCodePlan.h"
+
+#include <string>
 
 class Logger;
 
 namespace numbering {
 
-/// The numbering plan of calling code 43.
-class KesCNP_43 : public KesCNP {
+/// The numbering plan of calling code 43: "+43 (area code) subscriber", the area codes from the plan
+/// file. A national number whose area code is unknown is taken to begin with a four-digit one.
+class KesCNP_43 : public KesAreaCodePlan {
 public:
     KesCNP_43();
     ~KesCNP_43() override;
 
     std::string dlr_Country_MakeCanonicalNumber(std::string number, KesDialRulesItem* rules) override;
 
+    /// Self-test: converts a fixed list of numbers for a fixed installation and prints them.
+    static void main(std::string* args);
+
     static Logger* logger;
+    /// "tz310cnp_43.properties" and "tz310cnp_43_default.properties" in the configuration directory.
+    static std::string AREA_CODES_FILE;
+    static std::string AREA_CODES_DEFAULT_FILE;
 };
 
 } // namespace numbering

@@ -1,14 +1,17 @@
 #ifndef NUMBERING_KESCNP_44_H
 #define NUMBERING_KESCNP_44_H
 
-#include "numbering/KesCNP.h"
+#include "numbering/KesAreaCodePlan.h"
+
+#include <string>
 
 class Logger;
 
 namespace numbering {
 
-/// The numbering plan of calling code 44.
-class KesCNP_44 : public KesCNP {
+/// The numbering plan of calling code 44: national numbers split at a known area code, else written
+/// with the national prefix "(0)"; local numbers (first digit 2 to 9) completed with the own area code.
+class KesCNP_44 : public KesAreaCodePlan {
 public:
     KesCNP_44();
     ~KesCNP_44() override;
@@ -16,6 +19,9 @@ public:
     std::string dlr_Country_MakeCanonicalNumber(std::string number, KesDialRulesItem* rules) override;
 
     static Logger* logger;
+    /// "tz310cnp_44.properties" and "tz310cnp_44_default.properties" in the configuration directory.
+    static std::string AREA_CODES_FILE;
+    static std::string AREA_CODES_DEFAULT_FILE;
 };
 
 } // namespace numbering

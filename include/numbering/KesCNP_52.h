@@ -1,21 +1,38 @@
 #ifndef NUMBERING_KESCNP_52_H
 #define NUMBERING_KESCNP_52_H
 
-#include "numbering/KesCNP.h"
+#include "numbering/KesAreaCodePlan.h"
+
+#include <string>
+#include <string_view>
 
 class Logger;
 
 namespace numbering {
 
-/// The numbering plan of calling code 52.
-class KesCNP_52 : public KesCNP {
+/// The numbering plan of calling code 52. Mexican national significant numbers have ten digits:
+/// a two-digit area code (55 and 56 for Mexico City, 33, 81) and eight digits, or a three-digit
+/// area code and seven. Fixed numbers become "+52 (area) number"; mobiles carry the mobile marker
+/// "1" in the parentheses, "+52 (1area) number", which the Mexican dialing strategy turns back into
+/// 044 (own area) or 045 (another area). Numbers of any other shape come back unchanged.
+class KesCNP_52 : public KesAreaCodePlan {
 public:
     KesCNP_52();
     ~KesCNP_52() override;
 
     std::string dlr_Country_MakeCanonicalNumber(std::string number, KesDialRulesItem* rules) override;
+    /// True when `number` (an area code or a national significant number) begins with one of the
+    /// two-digit area codes 55, 56, 33 or 81.
+    virtual bool isTwoDigitsAreaCode(std::string number);
 
     static Logger* logger;
+    /// "tz310cnp_52.properties" and "tz310cnp_52_default.properties" in the configuration directory.
+    static std::string AREA_CODES_FILE;
+    static std::string AREA_CODES_DEFAULT_FILE;
+
+private:
+    bool place(std::string_view number, KesDialRulesItem* rules, std::string& result);
+    std::string placeNationalNumber(std::string_view head, std::string_view national);
 };
 
 } // namespace numbering

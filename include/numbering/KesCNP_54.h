@@ -1,21 +1,50 @@
 #ifndef NUMBERING_KESCNP_54_H
 #define NUMBERING_KESCNP_54_H
 
-#include "numbering/KesCNP.h"
+#include "numbering/KesAreaCodePlan.h"
+
+#include <string>
 
 class Logger;
 
 namespace numbering {
 
-/// The numbering plan of calling code 54.
-class KesCNP_54 : public KesCNP {
+class KesNumberingConfig;
+
+/// The numbering plan of calling code 54. Argentine numbers carry two mobile markers: "15" between
+/// the area code and the subscriber number when dialled nationally, "9" between the country code
+/// and the area code in international form ("+54 9 (11) 43215678"). StripNbr splits a number into
+/// area code, subscriber number and mobile flag; the Argentine dialing strategy uses the same split.
+class KesCNP_54 : public KesAreaCodePlan {
 public:
+    /// The split of a number. StripNbr makes it on the heap; the caller deletes it.
+    struct StrippedNumber {
+        std::string area;
+        std::string number; // without any prefix or mobile marker
+        bool mobile = false;
+    };
+
     KesCNP_54();
     ~KesCNP_54() override;
 
     std::string dlr_Country_MakeCanonicalNumber(std::string number, KesDialRulesItem* rules) override;
 
+    /// The split of `number` as dialled at the installation `rules`, or null when it cannot be
+    /// split (longer than 15 characters, a "9" not followed by a known area code, no `rules`).
+    StrippedNumber* StripNbr(std::string number, KesDialRulesItem* rules);
+
+    /// The store as it was when the last plan was built. The split itself asks the current store,
+    /// which may have been reset and reloaded since.
+    static KesNumberingConfig* config;
+    static std::string PREFIX_MOBILE_NATIONAL;
+    static std::string PREFIX_MOBILE_INTERNATIONAL;
     static Logger* logger;
+    /// "tz310cnp_54.properties" and "tz310cnp_54_default.properties" in the configuration directory.
+    static std::string AREA_CODES_FILE;
+    static std::string AREA_CODES_DEFAULT_FILE;
+
+private:
+    bool strip(const std::string& number, KesDialRulesItem* rules, StrippedNumber& split);
 };
 
 } // namespace numbering

@@ -1,14 +1,18 @@
 #ifndef NUMBERING_KESCNP_61_H
 #define NUMBERING_KESCNP_61_H
 
-#include "numbering/KesCNP.h"
+#include "numbering/KesAreaCodePlan.h"
+
+#include <string>
 
 class Logger;
 
 namespace numbering {
 
-/// The numbering plan of calling code 61.
-class KesCNP_61 : public KesCNP {
+/// The numbering plan of calling code 61, decided by exact length: ten-digit national numbers
+/// split at a known area code, the 1300, 1800 and 13 services written with their prefix outside
+/// the parentheses ("+61 1300 123456"), eight-digit local numbers completed with the own area code.
+class KesCNP_61 : public KesAreaCodePlan {
 public:
     KesCNP_61();
     ~KesCNP_61() override;
@@ -16,6 +20,9 @@ public:
     std::string dlr_Country_MakeCanonicalNumber(std::string number, KesDialRulesItem* rules) override;
 
     static Logger* logger;
+    /// "tz310cnp_61.properties" and "tz310cnp_61_default.properties" in the configuration directory.
+    static std::string AREA_CODES_FILE;
+    static std::string AREA_CODES_DEFAULT_FILE;
 };
 
 } // namespace numbering

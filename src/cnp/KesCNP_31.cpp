@@ -1,5 +1,6 @@
 #include "numbering/KesCNP_31.h"
 
+#include "numbering/KesNumberingConfig.h"
 #include "numbering/Logger.h"
 
 #include <typeinfo>
@@ -7,15 +8,31 @@
 namespace numbering {
 
 Logger* KesCNP_31::logger = Logger::getLogger(typeid(KesCNP_31).name());
+std::string KesCNP_31::AREA_CODES_FILE = KesNumberingConfig::configFile("tz310cnp_31.properties");
+std::string KesCNP_31::AREA_CODES_DEFAULT_FILE =
+    KesNumberingConfig::configFile("tz310cnp_31_default.properties");
 
-KesCNP_31::KesCNP_31() {
-    if (Logger::m_Traces)
-        logger->debug("KesCNP_31()");
-}
+namespace {
+
+const KesAreaCodePlan::PlanFile PLAN_FILE = {&KesCNP_31::AREA_CODES_FILE,
+                                             &KesCNP_31::AREA_CODES_DEFAULT_FILE,
+                                             "No specific configuration file for Netherlands",
+                                             "No specific dialing rules configuration file",
+                                             "KesCNP_31",
+                                             true};
+
+const KesCNP_31::OnePassRules CONVERSION = {"+31 (", 6, KesCNP_31::LocalRule::AnyFirstDigit,
+                                            KesCNP_31::UnknownAreaForm::NationalPrefixInParentheses,
+                                            "dlr_Country_MakeCanonicalNumber returns '"};
+
+} // namespace
+
+KesCNP_31::KesCNP_31() : KesAreaCodePlan(PLAN_FILE, logger) {}
 
 KesCNP_31::~KesCNP_31() = default;
 
-// Placeholder until the plan's rules land: a plan that cannot place a number returns it unchanged.
-std::string KesCNP_31::dlr_Country_MakeCanonicalNumber(std::string number, KesDialRulesItem*) { return number; }
+std::string KesCNP_31::dlr_Country_MakeCanonicalNumber(std::string number, KesDialRulesItem* rules) {
+    return convertInOnePass(CONVERSION, number, rules, logger);
+}
 
 } // namespace numbering

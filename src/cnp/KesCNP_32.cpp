@@ -1,5 +1,6 @@
 #include "numbering/KesCNP_32.h"
 
+#include "numbering/KesNumberingConfig.h"
 #include "numbering/Logger.h"
 
 #include <typeinfo>
@@ -7,15 +8,32 @@
 namespace numbering {
 
 Logger* KesCNP_32::logger = Logger::getLogger(typeid(KesCNP_32).name());
+std::string KesCNP_32::AREA_CODES_FILE = KesNumberingConfig::configFile("tz310cnp_32.properties");
+std::string KesCNP_32::AREA_CODES_DEFAULT_FILE =
+    KesNumberingConfig::configFile("tz310cnp_32_default.properties");
 
-KesCNP_32::KesCNP_32() {
-    if (Logger::m_Traces)
-        logger->debug("KesCNP_32()");
-}
+namespace {
+
+const KesAreaCodePlan::PlanFile PLAN_FILE = {&KesCNP_32::AREA_CODES_FILE,
+                                             &KesCNP_32::AREA_CODES_DEFAULT_FILE,
+                                             "No specific configuration file for Belgium",
+                                             "No specific dialing rules configuration file",
+                                             "KesCNP_32",
+                                             false};
+
+// Numbers without national prefix are never completed: the plan reads no "Translate".
+const KesCNP_32::OnePassRules CONVERSION = {"+32 (", 9, KesCNP_32::LocalRule::None,
+                                            KesCNP_32::UnknownAreaForm::NationalPrefixInParentheses,
+                                            "dlr_Country_MakeCanonicalNumber returns '"};
+
+} // namespace
+
+KesCNP_32::KesCNP_32() : KesAreaCodePlan(PLAN_FILE, logger) {}
 
 KesCNP_32::~KesCNP_32() = default;
 
-// Placeholder until the plan's rules land: a plan that cannot place a number returns it unchanged.
-std::string KesCNP_32::dlr_Country_MakeCanonicalNumber(std::string number, KesDialRulesItem*) { return number; }
+std::string KesCNP_32::dlr_Country_MakeCanonicalNumber(std::string number, KesDialRulesItem* rules) {
+    return convertInOnePass(CONVERSION, number, rules, logger);
+}
 
 } // namespace numbering

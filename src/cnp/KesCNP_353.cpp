@@ -1,5 +1,6 @@
 #include "numbering/KesCNP_353.h"
 
+#include "numbering/KesNumberingConfig.h"
 #include "numbering/Logger.h"
 
 #include <typeinfo>
@@ -7,15 +8,32 @@
 namespace numbering {
 
 Logger* KesCNP_353::logger = Logger::getLogger(typeid(KesCNP_353).name());
+std::string KesCNP_353::AREA_CODES_FILE = KesNumberingConfig::configFile("tz310cnp_353.properties");
+std::string KesCNP_353::AREA_CODES_DEFAULT_FILE =
+    KesNumberingConfig::configFile("tz310cnp_353_default.properties");
 
-KesCNP_353::KesCNP_353() {
-    if (Logger::m_Traces)
-        logger->debug("KesCNP_353()");
-}
+namespace {
+
+const KesAreaCodePlan::PlanFile PLAN_FILE = {&KesCNP_353::AREA_CODES_FILE,
+                                             &KesCNP_353::AREA_CODES_DEFAULT_FILE,
+                                             "No specific dialing rules configuration for Irelandd",
+                                             "No specific dialing rules configuration for Ireland",
+                                             "KesCNP_353",
+                                             true};
+
+// A national number with an unknown area code is split behind its first two digits.
+const KesCNP_353::OnePassRules CONVERSION = {"+353 (", 5, KesCNP_353::LocalRule::AnyFirstDigit,
+                                             KesCNP_353::UnknownAreaForm::FirstTwoDigits,
+                                             "DlrCountryMakeCanonicalNumber returns '"};
+
+} // namespace
+
+KesCNP_353::KesCNP_353() : KesAreaCodePlan(PLAN_FILE, logger) {}
 
 KesCNP_353::~KesCNP_353() = default;
 
-// Placeholder until the plan's rules land: a plan that cannot place a number returns it unchanged.
-std::string KesCNP_353::dlr_Country_MakeCanonicalNumber(std::string number, KesDialRulesItem*) { return number; }
+std::string KesCNP_353::dlr_Country_MakeCanonicalNumber(std::string number, KesDialRulesItem* rules) {
+    return convertInOnePass(CONVERSION, number, rules, logger);
+}
 
 } // namespace numbering

@@ -1,10 +1,15 @@
 #include "numbering/KesCNP_41.h"
 
+#include "PlanText.h"
+#include "numbering/KesDialRulesItem.h"
 #include "numbering/Logger.h"
 
+#include <string_view>
 #include <typeinfo>
 
 namespace numbering {
+
+using plantext::beginsWith;
 
 Logger* KesCNP_41::logger = Logger::getLogger(typeid(KesCNP_41).name());
 
@@ -15,7 +20,40 @@ KesCNP_41::KesCNP_41() {
 
 KesCNP_41::~KesCNP_41() = default;
 
-// Placeholder until the plan's rules land: a plan that cannot place a number returns it unchanged.
-std::string KesCNP_41::dlr_Country_MakeCanonicalNumber(std::string number, KesDialRulesItem*) { return number; }
+std::string KesCNP_41::dlr_Country_MakeCanonicalNumber(std::string number, KesDialRulesItem* rules) {
+    if (rules == nullptr)
+        return number;
+    if (Logger::m_Traces)
+        logger->debug(plantext::entryTrace(number, rules));
+
+    std::string_view cur = number;
+    if (cur.size() <= 8)
+        return number;
+    if (cur.size() >= 11) {
+        // Only a national number of 9 or 10 characters behind the outside-line prefix is converted.
+        std::string ext = rules->getExtPrefix();
+        std::string_view::size_type behind = cur.size() - ext.size();
+        if (!beginsWith(cur, ext) || (behind != 9 && behind != 10))
+            return number;
+        cur.remove_prefix(ext.size());
+    }
+
+    if (cur.size() == 9) {
+        if (!beginsWith(cur, szLocalNumberPfx))
+            return number;
+        return plantext::canonicalNumber("41", "1", cur.substr(2));
+    }
+    if (cur[0] != '0')
+        return number;
+    if (beginsWith(cur, szFreePhonePfx)) {
+        // Free-phone numbers are written "+41 800" with the digits straight after, without blank
+        // or parentheses: deliberately unlike the area code forms, and kept so.
+        std::string result;
+        result.reserve(cur.size() + 3);
+        result.append("+41 800").append(cur.substr(4));
+        return result;
+    }
+    return plantext::canonicalNumber("41", cur.substr(1, 2), cur.substr(3));
+}
 
 } // namespace numbering

@@ -1,21 +1,51 @@
 #include "numbering/KesCNP_43.h"
 
+#include "numbering/KesNumberingConfig.h"
 #include "numbering/Logger.h"
+
+#include "PlanSelfTest.h"
 
 #include <typeinfo>
 
 namespace numbering {
 
 Logger* KesCNP_43::logger = Logger::getLogger(typeid(KesCNP_43).name());
+std::string KesCNP_43::AREA_CODES_FILE = KesNumberingConfig::configFile("tz310cnp_43.properties");
+std::string KesCNP_43::AREA_CODES_DEFAULT_FILE =
+    KesNumberingConfig::configFile("tz310cnp_43_default.properties");
 
-KesCNP_43::KesCNP_43() {
-    if (Logger::m_Traces)
-        logger->debug("KesCNP_43()");
-}
+namespace {
+
+const KesAreaCodePlan::PlanFile PLAN_FILE = {&KesCNP_43::AREA_CODES_FILE,
+                                             &KesCNP_43::AREA_CODES_DEFAULT_FILE,
+                                             "No specific configuration file for Austria",
+                                             "No specific dialing rules configuration file",
+                                             "KesCNP_43",
+                                             true};
+
+// A national number with an unknown area code is taken to begin with a four-digit one.
+const KesCNP_43::TwoPassRules CONVERSION = {"+43 (", KesCNP_43::UnknownAreaCode::FirstFourDigits};
+
+const SelfTestCase SELF_TEST[] = {
+    {"Local 27722 -> ", "27722"},
+    {"Local + prefixe 127722 -> ", "127722"},
+    {"National 0127722 -> ", "0127722"},
+    {"National + prefixe 10127722 -> ", "10127722"},
+};
+
+} // namespace
+
+KesCNP_43::KesCNP_43() : KesAreaCodePlan(PLAN_FILE, logger) {}
 
 KesCNP_43::~KesCNP_43() = default;
 
-// Placeholder until the plan's rules land: a plan that cannot place a number returns it unchanged.
-std::string KesCNP_43::dlr_Country_MakeCanonicalNumber(std::string number, KesDialRulesItem*) { return number; }
+std::string KesCNP_43::dlr_Country_MakeCanonicalNumber(std::string number, KesDialRulesItem* rules) {
+    return convertInTwoPasses(CONVERSION, number, rules, logger);
+}
+
+void KesCNP_43::main(std::string* /*args*/) {
+    KesCNP_43 plan;
+    printPlanSelfTest(plan, {"AT", "1", 4, "1"}, SELF_TEST);
+}
 
 } // namespace numbering

@@ -1,5 +1,6 @@
 #include "numbering/KesCNP_44.h"
 
+#include "numbering/KesNumberingConfig.h"
 #include "numbering/Logger.h"
 
 #include <typeinfo>
@@ -7,15 +8,32 @@
 namespace numbering {
 
 Logger* KesCNP_44::logger = Logger::getLogger(typeid(KesCNP_44).name());
+std::string KesCNP_44::AREA_CODES_FILE = KesNumberingConfig::configFile("tz310cnp_44.properties");
+std::string KesCNP_44::AREA_CODES_DEFAULT_FILE =
+    KesNumberingConfig::configFile("tz310cnp_44_default.properties");
 
-KesCNP_44::KesCNP_44() {
-    if (Logger::m_Traces)
-        logger->debug("KesCNP_44()");
-}
+namespace {
+
+const KesAreaCodePlan::PlanFile PLAN_FILE = {&KesCNP_44::AREA_CODES_FILE,
+                                             &KesCNP_44::AREA_CODES_DEFAULT_FILE,
+                                             "No specific configuration file for Austria",
+                                             "No specific dialing rules configuration file",
+                                             "KesCNP_44",
+                                             true};
+
+// Only numbers beginning with 2 to 9 are local numbers.
+const KesCNP_44::OnePassRules CONVERSION = {"+44 (", 6, KesCNP_44::LocalRule::FirstDigitTwoToNine,
+                                            KesCNP_44::UnknownAreaForm::NationalPrefixInParentheses,
+                                            "dlr_Country_MakeCanonicalNumber returns '"};
+
+} // namespace
+
+KesCNP_44::KesCNP_44() : KesAreaCodePlan(PLAN_FILE, logger) {}
 
 KesCNP_44::~KesCNP_44() = default;
 
-// Placeholder until the plan's rules land: a plan that cannot place a number returns it unchanged.
-std::string KesCNP_44::dlr_Country_MakeCanonicalNumber(std::string number, KesDialRulesItem*) { return number; }
+std::string KesCNP_44::dlr_Country_MakeCanonicalNumber(std::string number, KesDialRulesItem* rules) {
+    return convertInOnePass(CONVERSION, number, rules, logger);
+}
 
 } // namespace numbering

@@ -1,21 +1,51 @@
 #include "numbering/KesCNP_49.h"
 
+#include "numbering/KesNumberingConfig.h"
 #include "numbering/Logger.h"
+
+#include "PlanSelfTest.h"
 
 #include <typeinfo>
 
 namespace numbering {
 
 Logger* KesCNP_49::logger = Logger::getLogger(typeid(KesCNP_49).name());
+std::string KesCNP_49::AREA_CODES_FILE = KesNumberingConfig::configFile("tz310cnp_49.properties");
+std::string KesCNP_49::AREA_CODES_DEFAULT_FILE =
+    KesNumberingConfig::configFile("tz310cnp_49_default.properties");
 
-KesCNP_49::KesCNP_49() {
-    if (Logger::m_Traces)
-        logger->debug("KesCNP_49()");
-}
+namespace {
+
+const KesAreaCodePlan::PlanFile PLAN_FILE = {&KesCNP_49::AREA_CODES_FILE,
+                                             &KesCNP_49::AREA_CODES_DEFAULT_FILE,
+                                             "No specific dialing rules configuration file",
+                                             "No specific dialing rules configuration file",
+                                             "KesCNP_49",
+                                             true};
+
+// A national number with an unknown area code goes behind the installation's own area code.
+const KesCNP_49::TwoPassRules CONVERSION = {"+49 (", KesCNP_49::UnknownAreaCode::OwnAreaCodeInFront};
+
+const SelfTestCase SELF_TEST[] = {
+    {"Local 76985411 -> ", "76985411"},
+    {"Local + prefixe 176985411 -> ", "176985411"},
+    {"National 0771176985411 -> ", "071176985411"},
+    {"National + prefixe 10771176985411 -> ", "1071176985411"},
+};
+
+} // namespace
+
+KesCNP_49::KesCNP_49() : KesAreaCodePlan(PLAN_FILE, logger) {}
 
 KesCNP_49::~KesCNP_49() = default;
 
-// Placeholder until the plan's rules land: a plan that cannot place a number returns it unchanged.
-std::string KesCNP_49::dlr_Country_MakeCanonicalNumber(std::string number, KesDialRulesItem*) { return number; }
+std::string KesCNP_49::dlr_Country_MakeCanonicalNumber(std::string number, KesDialRulesItem* rules) {
+    return convertInTwoPasses(CONVERSION, number, rules, logger);
+}
+
+void KesCNP_49::main(std::string* /*args*/) {
+    KesCNP_49 plan;
+    printPlanSelfTest(plan, {"DE", "1", 5, "170"}, SELF_TEST);
+}
 
 } // namespace numbering

@@ -1,21 +1,117 @@
 #include "numbering/KesCNP_52.h"
 
+#include "numbering/KesDialRulesItem.h"
+#include "numbering/KesNumberingConfig.h"
 #include "numbering/Logger.h"
 
+#include <algorithm>
 #include <typeinfo>
 
 namespace numbering {
 
 Logger* KesCNP_52::logger = Logger::getLogger(typeid(KesCNP_52).name());
+std::string KesCNP_52::AREA_CODES_FILE = KesNumberingConfig::configFile("tz310cnp_52.properties");
+std::string KesCNP_52::AREA_CODES_DEFAULT_FILE =
+    KesNumberingConfig::configFile("tz310cnp_52_default.properties");
 
-KesCNP_52::KesCNP_52() {
-    if (Logger::m_Traces)
-        logger->debug("KesCNP_52()");
+namespace {
+
+const KesAreaCodePlan::PlanFile PLAN_FILE = {&KesCNP_52::AREA_CODES_FILE,
+                                             &KesCNP_52::AREA_CODES_DEFAULT_FILE,
+                                             "No specific configuration file for Mexico",
+                                             "No specific dialing rules configuration file",
+                                             "KesCNP_52",
+                                             true};
+
+// The forms the Mexican dialing strategy reads back: a mobile keeps the mobile marker "1" in front
+// of its area code, and 044/045 are its national mobile prefixes.
+const char* const HEAD = "+52 (";
+const char* const MOBILE_HEAD = "+52 (1";
+const std::size_t NATIONAL_LENGTH = 10;
+const std::string_view NATIONAL_PREFIX = "01";
+const std::string_view MOBILE_MARKER = "1";
+const std::string_view MOBILE_PREFIXES[] = {"044", "045"};
+const std::string_view TWO_DIGIT_AREA_CODES[] = {"55", "56", "33", "81"};
+
+bool beginsWith(std::string_view text, std::string_view prefix) {
+    return text.substr(0, prefix.size()) == prefix;
 }
+
+bool allDigits(std::string_view text) {
+    return std::all_of(text.begin(), text.end(), [](char c) { return c >= '0' && c <= '9'; });
+}
+
+// Area codes and subscriber numbers begin with 2 to 9: 0 and 1 open prefixes and markers.
+bool beginsLikeANumber(std::string_view digits) {
+    return !digits.empty() && digits[0] >= '2' && digits[0] <= '9';
+}
+
+bool isNationalNumber(std::string_view digits) {
+    return digits.size() == NATIONAL_LENGTH && beginsLikeANumber(digits);
+}
+
+} // namespace
+
+KesCNP_52::KesCNP_52() : KesAreaCodePlan(PLAN_FILE, logger) {}
 
 KesCNP_52::~KesCNP_52() = default;
 
-// Placeholder until the plan's rules land: a plan that cannot place a number returns it unchanged.
-std::string KesCNP_52::dlr_Country_MakeCanonicalNumber(std::string number, KesDialRulesItem*) { return number; }
+bool KesCNP_52::isTwoDigitsAreaCode(std::string number) {
+    return std::any_of(std::begin(TWO_DIGIT_AREA_CODES), std::end(TWO_DIGIT_AREA_CODES),
+                       [&](std::string_view code) { return beginsWith(number, code); });
+}
+
+// The area code listed in the plan file wins; otherwise the fixed two-or-three-digit rule.
+std::string KesCNP_52::placeNationalNumber(std::string_view head, std::string_view national) {
+    std::size_t areaLength = areaCodeAt(national, logger);
+    if (areaLength == 0)
+        areaLength = isTwoDigitsAreaCode(std::string(national.substr(0, 2))) ? 2 : 3;
+    return canonical(head, national.substr(0, areaLength), national.substr(areaLength));
+}
+
+bool KesCNP_52::place(std::string_view number, KesDialRulesItem* rules, std::string& result) {
+    if (number.empty() || !allDigits(number))
+        return false;
+    for (std::string_view mobilePrefix : MOBILE_PREFIXES)
+        if (beginsWith(number, mobilePrefix) && isNationalNumber(number.substr(mobilePrefix.size()))) {
+            result = placeNationalNumber(MOBILE_HEAD, number.substr(mobilePrefix.size()));
+            return true;
+        }
+    bool withNationalPrefix = beginsWith(number, NATIONAL_PREFIX);
+    std::string_view rest = withNationalPrefix ? number.substr(NATIONAL_PREFIX.size()) : number;
+    if (isNationalNumber(rest)) {
+        result = placeNationalNumber(HEAD, rest);
+        return true;
+    }
+    // The international mobile form "+52 1 ..." reaches the plan as the mobile marker and the
+    // national number, behind the national prefix when the dialing rules give one.
+    if (beginsWith(rest, MOBILE_MARKER) && isNationalNumber(rest.substr(MOBILE_MARKER.size()))) {
+        result = placeNationalNumber(MOBILE_HEAD, rest.substr(MOBILE_MARKER.size()));
+        return true;
+    }
+    // A local number takes the installation's area code only where the two make ten digits.
+    if (withNationalPrefix || !beginsLikeANumber(rest) ||
+        rules->getAreaCode().size() + rest.size() != NATIONAL_LENGTH)
+        return false;
+    return completeWithOwnAreaCode(HEAD, rest, rules, result);
+}
+
+std::string KesCNP_52::dlr_Country_MakeCanonicalNumber(std::string number, KesDialRulesItem* rules) {
+    if (rules == nullptr)
+        return number;
+    if (Logger::m_Traces)
+        logger->debug(callTrace("dlr_Country_MakeCanonicalNumber", number, rules));
+    std::string result;
+    if (!place(number, rules, result)) {
+        // Only a number that cannot be placed as it stands is looked at behind the outside-line prefix.
+        std::string prefix = rules->getExtPrefix();
+        if (prefix.empty() || !beginsWith(number, prefix) ||
+            !place(std::string_view(number).substr(prefix.size()), rules, result))
+            result = std::move(number);
+    }
+    if (Logger::m_Traces)
+        logger->debug("dlr_Country_MakeCanonicalNumber returns '" + result + "'");
+    return result;
+}
 
 } // namespace numbering

@@ -1,5 +1,6 @@
 #include "numbering/KesCNP_61.h"
 
+#include "numbering/KesNumberingConfig.h"
 #include "numbering/Logger.h"
 
 #include <typeinfo>
@@ -7,15 +8,67 @@
 namespace numbering {
 
 Logger* KesCNP_61::logger = Logger::getLogger(typeid(KesCNP_61).name());
+std::string KesCNP_61::AREA_CODES_FILE = KesNumberingConfig::configFile("tz310cnp_61.properties");
+std::string KesCNP_61::AREA_CODES_DEFAULT_FILE =
+    KesNumberingConfig::configFile("tz310cnp_61_default.properties");
 
-KesCNP_61::KesCNP_61() {
-    if (Logger::m_Traces)
-        logger->debug("KesCNP_61()");
-}
+namespace {
+
+const KesAreaCodePlan::PlanFile PLAN_FILE = {&KesCNP_61::AREA_CODES_FILE,
+                                             &KesCNP_61::AREA_CODES_DEFAULT_FILE,
+                                             "No specific configuration file for Australia",
+                                             "No specific dialing rules configuration file",
+                                             "KesCNP_61",
+                                             true};
+
+const char* const HEAD = "+61 (";
+const std::size_t NATIONAL_LENGTH = 10;
+const std::size_t LOCAL_LENGTH = 8;
+
+// Service numbers keep their prefix outside the parentheses, followed by one blank.
+struct Service {
+    std::size_t length;
+    std::string_view prefix;
+    std::string_view head;
+};
+const Service SERVICES[] = {
+    {10, "1300", "+61 1300 "},
+    {10, "1800", "+61 1800 "},
+    {6, "13", "+61 13 "},
+};
+
+} // namespace
+
+KesCNP_61::KesCNP_61() : KesAreaCodePlan(PLAN_FILE, logger) {}
 
 KesCNP_61::~KesCNP_61() = default;
 
-// Placeholder until the plan's rules land: a plan that cannot place a number returns it unchanged.
-std::string KesCNP_61::dlr_Country_MakeCanonicalNumber(std::string number, KesDialRulesItem*) { return number; }
+std::string KesCNP_61::dlr_Country_MakeCanonicalNumber(std::string number, KesDialRulesItem* rules) {
+    if (rules == nullptr)
+        return number;
+    if (Logger::m_Traces)
+        logger->debug(callTrace("dlr_Country_MakeCanonicalNumber", number, rules));
+    std::string result;
+    std::string_view digits = number;
+    if (digits.size() == NATIONAL_LENGTH && digits[0] == '0') {
+        result =
+            placeAtAreaCode(HEAD, digits.substr(1), UnknownAreaForm::NationalPrefixInParentheses, logger);
+    } else if (digits.size() == LOCAL_LENGTH) {
+        completeWithOwnAreaCode(HEAD, digits, rules, result);
+    } else {
+        for (const Service& service : SERVICES)
+            if (digits.size() == service.length &&
+                digits.substr(0, service.prefix.size()) == service.prefix) {
+                result.reserve(service.head.size() + digits.size() - service.prefix.size());
+                result.append(service.head).append(digits.substr(service.prefix.size()));
+                break;
+            }
+    }
+    if (result.empty())
+        result = std::move(number);
+    if (Logger::m_Traces)
+        logger->debug("dlr_Country_MakeCanonicalNumber returns '" + result + "'");
+    return result;
+}
 
 } // namespace numbering

@@ -1,6 +1,9 @@
 #include "numbering/KesNumberingConfig.h"
 
 #include "PropertyFiles.h"
+#include "numbering/KesCNP_33.h"
+#include "numbering/KesCNP_57.h"
+#include "numbering/KesCNP_7.h"
 #include "numbering/Logger.h"
 #include "numbering/number_format_exception.h"
 
@@ -72,6 +75,8 @@ KesNumberingConfig::KesNumberingConfig()
 KesNumberingConfig::~KesNumberingConfig() {
     if (Logger::m_Traces)
         logger->debug("~KesNumberingConfig()");
+    // Plans that keep the store must not point at a destroyed one; they fetch the next on use.
+    KesCNP_33::config = KesCNP_57::config = KesCNP_7::config = nullptr;
     countryCodeByNumber.clear();
     countryCodeByName.clear();
     countryRules.clear();

@@ -25,7 +25,8 @@ protected:
 } // namespace
 
 TEST(PlanFactory, MatchesCallingCodesExactly) {
-    const char* withPlan[] = {"1", "31", "32", "33", "41", "43", "44", "49", "52", "54", "57", "61", "64", "7", "353"};
+    const char* withPlan[] = {"1",  "31", "32", "33", "41", "43", "44", "49",
+                              "52", "54", "57", "61", "64", "7",  "353"};
     for (const char* code : withPlan) {
         KesCNP* plan = KesCNPFactory::CreateInstance(code);
         EXPECT_NE(plan, nullptr) << code;
@@ -66,8 +67,8 @@ TEST_F(PlanManager, CountriesWithoutPlanAreRemembered) {
 
 TEST_F(PlanManager, SwitchedOffCountryGetsNoPlan) {
     // Only a country number reading as 0 sees the file's switch.
-    testconfig::write("dialingrules.properties", std::string(testconfig::STANDARD_DIALING_RULES) +
-                                                     "XZ = 0:00:EF:0F::Zero:P\n");
+    testconfig::write("dialingrules.properties",
+                      std::string(testconfig::STANDARD_DIALING_RULES) + "XZ = 0:00:EF:0F::Zero:P\n");
     testconfig::write("specific_format_activation.properties", "cnp_0 = off\n");
     testconfig::reload();
     KesCNPManager* manager = KesCNPManager::getInstance();

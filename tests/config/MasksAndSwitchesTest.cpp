@@ -60,7 +60,6 @@ TEST_F(MasksAndSwitches, MaskCountLineSkipsAsManyCharactersAsMasksLoaded) {
         many += "Mask_" + std::to_string(i) + "_1 = m\n";
     load(many, "");
     // More masks than characters: an empty message, never a read outside the text.
-    EXPECT_EQ(testhost::countLogged("DEBUG N9numbering18KesNumberingConfigE - "), testhost::countLogged("DEBUG "));
     EXPECT_TRUE(std::find(testhost::lines().begin(), testhost::lines().end(),
                           "DEBUG N9numbering18KesNumberingConfigE - ") != testhost::lines().end());
 }

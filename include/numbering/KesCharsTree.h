@@ -1,0 +1,44 @@
+#ifndef NUMBERING_KESCHARSTREE_H
+#define NUMBERING_KESCHARSTREE_H
+
+#include "numbering/KesCharsTreeElement.h"
+
+#include <cstddef>
+#include <string>
+#include <string_view>
+
+class Logger;
+
+namespace numbering {
+
+/// A prefix tree of character strings, one node per character, with a flag where a stored code
+/// ends. Built once, then only read.
+class KesCharsTree {
+public:
+    KesCharsTree();
+    /// Copies are deep: the two trees share no node.
+    KesCharsTree(const KesCharsTree& other) = default;
+    KesCharsTree& operator=(const KesCharsTree& other) = default;
+    virtual ~KesCharsTree();
+
+    /// Stores `code`; an empty code throws std::invalid_argument " Unexpected value:".
+    virtual void insert(std::string code);
+    /// The longest prefix of `s` that is a path from the root, flagged or not.
+    virtual std::string isPresent(std::string s);
+    virtual std::string isPresent(std::string s, KesCharsTreeElement& from);
+    /// True when `s` is exactly a stored code.
+    virtual bool isAreaCode(std::string s);
+    virtual std::string ToString();
+
+    /// The length of the longest stored code that begins `s` (0 when none), found in one walk
+    /// down the tree without building any string.
+    std::size_t longestCodeLength(std::string_view s);
+
+    static Logger* logger;
+
+    KesCharsTreeElement root;
+};
+
+} // namespace numbering
+
+#endif

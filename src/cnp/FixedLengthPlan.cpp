@@ -1,0 +1,52 @@
+#include "FixedLengthPlan.h"
+
+#include "PlanText.h"
+#include "numbering/KesCountryRuleItem.h"
+#include "numbering/KesDialRulesItem.h"
+#include "numbering/KesNumberingConfig.h"
+#include "numbering/Logger.h"
+
+namespace numbering {
+
+namespace {
+
+// Looked up on every call so that a reloaded store is seen. The dialing rules are expected to
+// hold the country; without it there is no prefix to add or to recognise.
+std::string nationalPrefix(KesNumberingConfig* config, const char* countryKey) {
+    KesNumberingConfig* store = config != nullptr ? config : KesNumberingConfig::getInstance();
+    KesCountryRuleItem* rule = store->getCountryRule(countryKey);
+    return rule == nullptr ? std::string() : rule->getLongDistPrefix();
+}
+
+} // namespace
+
+std::string makeFixedLengthCanonicalNumber(const FixedLengthPlan& plan, KesNumberingConfig* config,
+                                           Logger* logger, std::string number, KesDialRulesItem* rules) {
+    if (rules == nullptr)
+        return number;
+    if (Logger::m_Traces)
+        logger->debug(plantext::entryTrace(number, rules));
+
+    // Any number of the national length is national, whatever its first digit.
+    if (number.size() == plan.nationalLength)
+        return plan.canonical(number);
+
+    std::string natPfx = nationalPrefix(config, plan.countryKey);
+    if (natPfx.size() + number.size() == plan.nationalLength &&
+        !(plan.completesOnlyUnprefixed && plantext::beginsWith(number, natPfx)) &&
+        !rules->isLocalNumber(number) && !rules->isExceptionNumber(number)) {
+        if (Logger::m_Traces)
+            logger->debug("National number without national prefix detected : '" + number + "'");
+        return plan.canonical(natPfx + number);
+    }
+
+    std::string ext = rules->getExtPrefix();
+    if (number.size() == plan.nationalLength + ext.size() && plantext::beginsWith(number, ext)) {
+        if (Logger::m_Traces)
+            logger->debug("National number with external prefix detected : '" + number + "'");
+        return plan.canonical(std::string_view(number).substr(ext.size()));
+    }
+    return number;
+}
+
+} // namespace numbering

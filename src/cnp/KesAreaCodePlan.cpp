@@ -1,0 +1,96 @@
+#include "numbering/KesAreaCodePlan.h"
+
+#include "config/PropertyFiles.h"
+#include "numbering/KesDialRulesItem.h"
+#include "numbering/Logger.h"
+
+#include <algorithm>
+#include <exception>
+
+namespace numbering {
+
+KesAreaCodePlan::KesAreaCodePlan(const PlanFile& file, Logger* planLogger)
+    : translate(true), maxAreaCodeLength(0), areaCodeCount(0), areaCodeTree(new KesAreaCodeTree) {
+    if (Logger::m_Traces)
+        planLogger->debug(std::string(file.planName) + "()");
+    loadAreaCodes(file, planLogger);
+}
+
+KesAreaCodePlan::~KesAreaCodePlan() = default;
+
+void KesAreaCodePlan::loadAreaCodes(const PlanFile& file, Logger* planLogger) {
+    try {
+        PropertyFile properties =
+            openInstallationOrDefault(*file.installationFile, *file.defaultFile, planLogger,
+                                      file.textWhenUnopenable, file.textWhenNotFound);
+        if (file.readsTranslate)
+            translate = properties->getString("Translate") == "1";
+        // The list ends at the first missing key (a gap included), by exception like a normal file.
+        forEachIndexedValue(*properties, "AC_", [this](const std::string& value) {
+            std::string digits = leadingDigits(value);
+            if (static_cast<int>(digits.size()) > maxAreaCodeLength)
+                maxAreaCodeLength = static_cast<int>(digits.size());
+            areaCodeTree->insert(digits);
+            ++areaCodeCount;
+        });
+    } catch (const std::exception& e) {
+        if (Logger::m_Traces)
+            planLogger->debug(std::string(file.planName) + " : " + e.what());
+        if (Logger::m_Traces)
+            planLogger->debug(std::string(file.planName) + " : " +
+                              " max length areacode : " + std::to_string(maxAreaCodeLength) +
+                              " nb area code : " + std::to_string(areaCodeCount));
+    }
+}
+
+std::size_t KesAreaCodePlan::areaCodeAt(std::string_view national, Logger* planLogger) {
+    std::size_t length = areaCodeTree->areaCodeLength(national);
+    if (Logger::m_Traces) {
+        std::string quoted = "'" + std::string(national) + "'";
+        if (length == 0)
+            planLogger->debug(quoted + " doesn't begin with a known area code");
+        else if (length == national.size())
+            planLogger->debug(quoted + " is an area code");
+        else
+            planLogger->debug(quoted + " isn't an area code, but begins with '" +
+                              std::string(national.substr(0, length)) + "' which is an area code");
+    }
+    return length;
+}
+
+std::string KesAreaCodePlan::placeAtAreaCode(std::string_view head, std::string_view national,
+                                             UnknownAreaForm unknownAreaForm, Logger* planLogger) {
+    std::size_t areaLength = areaCodeAt(national, planLogger);
+    if (areaLength == 0) {
+        if (unknownAreaForm == UnknownAreaForm::NationalPrefixInParentheses)
+            return canonical(head, "0", national);
+        areaLength = std::min<std::size_t>(2, national.size());
+    }
+    return canonical(head, national.substr(0, areaLength), national.substr(areaLength));
+}
+
+std::string KesAreaCodePlan::canonical(std::string_view head, std::string_view areaCode,
+                                       std::string_view subscriber) {
+    std::string result;
+    result.reserve(head.size() + areaCode.size() + 2 + subscriber.size());
+    result.append(head).append(areaCode).append(") ").append(subscriber);
+    return result;
+}
+
+bool KesAreaCodePlan::completeWithOwnAreaCode(std::string_view head, std::string_view local,
+                                              KesDialRulesItem* rules, std::string& result) {
+    if (!translate)
+        return false;
+    std::string own = rules->getAreaCode();
+    if (own.empty())
+        return false;
+    result = canonical(head, own, local);
+    return true;
+}
+
+std::string KesAreaCodePlan::callTrace(const char* operation, const std::string& number,
+                                       KesDialRulesItem* rules) {
+    return std::string(operation) + "('" + number + "', '" + rules->ToString() + "')";
+}
+
+} // namespace numbering

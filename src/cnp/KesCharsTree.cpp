@@ -1,0 +1,64 @@
+#include "numbering/KesCharsTree.h"
+
+#include "numbering/Logger.h"
+
+#include <stdexcept>
+#include <typeinfo>
+
+namespace numbering {
+
+Logger* KesCharsTree::logger = Logger::getLogger(typeid(KesCharsTree).name());
+
+KesCharsTree::KesCharsTree() : root('\0') {
+    if (Logger::m_Traces)
+        logger->debug("KesCharsTree()");
+}
+
+KesCharsTree::~KesCharsTree() = default;
+
+void KesCharsTree::insert(std::string code) {
+    if (code.empty())
+        throw std::invalid_argument(" Unexpected value:" + code);
+    root.insert(code);
+}
+
+std::string KesCharsTree::isPresent(std::string s) {
+    return isPresent(s, root);
+}
+
+std::string KesCharsTree::isPresent(std::string s, KesCharsTreeElement& from) {
+    if (s.empty())
+        return std::string();
+    KesCharsTreeElement* child = from.get(s[0]);
+    if (child == nullptr)
+        return std::string();
+    return s[0] + isPresent(s.substr(1), *child);
+}
+
+bool KesCharsTree::isAreaCode(std::string s) {
+    if (isPresent(s) != s)
+        return false;
+    KesCharsTreeElement* node = &root;
+    for (char c : s)
+        node = node->get(c);
+    return node->isAreaCode();
+}
+
+std::string KesCharsTree::ToString() {
+    return root.ToString();
+}
+
+std::size_t KesCharsTree::longestCodeLength(std::string_view s) {
+    std::size_t longest = 0;
+    KesCharsTreeElement* node = &root;
+    for (std::size_t i = 0; i < s.size(); ++i) {
+        node = node->get(s[i]);
+        if (node == nullptr)
+            break;
+        if (node->isAreaCode())
+            longest = i + 1;
+    }
+    return longest;
+}
+
+} // namespace numbering
