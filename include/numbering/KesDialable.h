@@ -43,6 +43,9 @@ protected:
     static void mergePrefix(std::string& result, const std::string& prefix);
     /// A result string with room for the longest dialable number.
     static std::string reservedResult();
+    /// The area field of an international number: empty when it is exactly the destination country's
+    /// national prefix (a canonical number that carries it in place of an area code), else unchanged.
+    static void dropDestinationNationalPrefix(const std::string& country, std::string& areaNatPfx);
 
 private:
     std::string applyRule(const std::string& rule, const std::string& prefix, const std::string& areaNatPfx,

@@ -33,6 +33,17 @@ std::string KesDialable::reservedResult() {
     return result;
 }
 
+void KesDialable::dropDestinationNationalPrefix(const std::string& country, std::string& areaNatPfx) {
+    // Only an exact match counts: an area code that merely begins with the prefix stays.
+    KesNumberingConfig* config = KesNumberingConfig::getInstance();
+    KesCountryRuleItem* destination = config->getCountryRule(config->getCountryCodeFromNumber(country));
+    if (destination == nullptr)
+        return;
+    std::string destinationPrefix = destination->getLongDistPrefix();
+    if (!destinationPrefix.empty() && areaNatPfx == destinationPrefix)
+        areaNatPfx.clear();
+}
+
 void KesDialable::mergePrefix(std::string& result, const std::string& prefix) {
     for (std::string::size_type i = 0; i < prefix.size(); ++i)
         if (i >= result.size() || result[i] != prefix[i])
@@ -47,15 +58,7 @@ std::string KesDialable::makeInternationalDialableNumber(std::string& country, s
     if (rule.find('E') != std::string::npos)
         result += country;
     if (rule.find('F') != std::string::npos) {
-        // A canonical number that carries the destination's national prefix in place of an area
-        // code loses it: only an exact match counts.
-        KesNumberingConfig* config = KesNumberingConfig::getInstance();
-        KesCountryRuleItem* destination = config->getCountryRule(config->getCountryCodeFromNumber(country));
-        if (destination != nullptr) {
-            std::string destinationPrefix = destination->getLongDistPrefix();
-            if (!destinationPrefix.empty() && areaNatPfx == destinationPrefix)
-                areaNatPfx.clear();
-        }
+        dropDestinationNationalPrefix(country, areaNatPfx);
         result += areaNatPfx;
     }
     result += number;

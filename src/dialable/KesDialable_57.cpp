@@ -60,14 +60,7 @@ std::string KesDialable_57::makeInternationalDialableNumber(std::string& country
     if (rule.find('E') != std::string::npos)
         result += number;
     if (rule.find('F') != std::string::npos) {
-        // The store is asked at call time: it can be reloaded while this strategy stays cached.
-        KesNumberingConfig* config = KesNumberingConfig::getInstance();
-        KesCountryRuleItem* destination = config->getCountryRule(config->getCountryCodeFromNumber(country));
-        if (destination != nullptr) {
-            std::string destinationPrefix = destination->getLongDistPrefix();
-            if (!destinationPrefix.empty() && areaNatPfx == destinationPrefix)
-                areaNatPfx.clear();
-        }
+        dropDestinationNationalPrefix(country, areaNatPfx);
         result += areaNatPfx;
     }
     result += number;

@@ -1,6 +1,7 @@
 #include "TestConfig.h"
 
 #include "numbering/KesNumberingConfig.h"
+#include "numbering/KesNumberingRules.h"
 
 #include <cstdio>
 #include <dirent.h>
@@ -53,7 +54,8 @@ void clearAll() {
     ::closedir(dir);
 }
 
-void reload() { numbering::KesNumberingConfig::resetInstance(); }
+// The facade tears down the plan and strategy caches and the store with itself.
+void reload() { numbering::KesNumberingRules::resetInstance(); }
 
 void useStandardWorld() {
     clearAll();

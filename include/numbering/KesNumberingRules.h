@@ -1,0 +1,93 @@
+#ifndef NUMBERING_KESNUMBERINGRULES_H
+#define NUMBERING_KESNUMBERINGRULES_H
+
+#include <string>
+#include <vector>
+
+class Logger;
+
+namespace numbering {
+
+class KesClid;
+class KesDialRulesItem;
+class KesNumberingConfig;
+
+/// The library's front door. Converts what a user typed, or what a trunk delivered, into the
+/// canonical international form ("+33 (1) 23456789"), lays canonical numbers out with the
+/// country masks, splits them, builds caller line identities and GSM forms, and turns canonical
+/// numbers back into the digits the installation dials (with the outside-line prefix where needed).
+///
+/// A process-wide singleton without instance data. The host creates it before converting from
+/// several threads and resets it only when idle (nothing here is locked). The conversions are
+/// virtual and call each other through the virtual table, so a host subclass can override them.
+class KesNumberingRules {
+public:
+    static KesNumberingRules* getInstance();
+    /// Tears down the plan cache, the strategy cache, the configuration store and the facade, in
+    /// this order: the next getInstance() re-reads every file.
+    static void resetInstance();
+
+    KesNumberingRules();
+
+    virtual std::vector<std::string> getCountryList();
+    virtual std::string getCountryCode(std::string countryName);
+    virtual std::string getCountryName(std::string countryCode);
+    virtual std::string getCountryCodeFromNumber(std::string countryNumber);
+    /// "+" and digits only; local numbers and service codes come back as the canonical conversion
+    /// left them, a failed conversion as "".
+    virtual std::string makeGSMCanonicalNumber(KesDialRulesItem* myKesDialRulesItem,
+                                               std::string strPhoneNumber, bool withExternalPrefix);
+    virtual std::string makeCanonicalNumber(KesDialRulesItem* myKesDialRulesItem, std::string strPhoneNumber,
+                                            std::string strPattern);
+    /// The canonical number, laid out with `strPattern` (or the country's mask) when it is
+    /// international; the cleaned number when no canonical form can be derived or it is a service
+    /// code; "" on failure. Only std::invalid_argument for a null item or an empty number escapes.
+    virtual std::string makeCanonicalNumber(KesDialRulesItem* myKesDialRulesItem, std::string strPhoneNumber,
+                                            std::string strPattern, bool withExternalPrefix);
+    /// The digits to send on an outside line for any acceptable number, outside-line prefix included.
+    virtual std::string makePhoneNumber(KesDialRulesItem* myKesDialRulesItem, std::string strPhoneNumber);
+    /// Like makePhoneNumber for canonical input; any other number is only checked and prefixed.
+    virtual std::string addExternalPrefix(KesDialRulesItem* myKesDialRulesItem, std::string strPhoneNumber);
+    /// A new caller identity owned by the caller, or null when the number cannot be converted.
+    virtual KesClid* makeClid(KesDialRulesItem* myKesDialRulesItem, std::string strPhoneNumber);
+
+    /// The canonical number of a national number for a country without a plan of its own.
+    std::string generateDefaultCanonicalNumber(std::string strPhoneNumber, std::string strCountryCode,
+                                               std::string strAreaCode);
+    /// Lays a canonical number out with a mask: "C" country number, "A" area code, "a" area code
+    /// unless it is the national prefix, "x" one subscriber digit; anything else is copied, and the
+    /// digits the mask does not place follow it. An empty `strPattern` takes the country's mask; a
+    /// country without one, or a number without parentheses, keeps its layout.
+    std::string formatCanonicalNumber(std::string strCanPhoneNumber, std::string strPattern);
+
+    std::string extractCountryNumberFromCanonicalNumber(std::string strCanPhoneNumber);
+    std::string extractAreaCodeOrNatPrefixFromCanonicalNumber(std::string strCanPhoneNumber);
+    /// The subscriber digits.
+    std::string extractExtensionFromCanonicalNumber(std::string strCanPhoneNumber);
+
+    /// "+", the country number, the area code (a national prefix in parentheses dropped), the rest.
+    std::string formatToGSMCanonicalNumber(std::string strCanPhoneNumber);
+
+    /// The digits that reach a canonical number from the installation, without the outside-line
+    /// prefix. `myKesDialRulesItem` must not be null.
+    std::string makeDialableNumber(KesDialRulesItem* myKesDialRulesItem, std::string strCanPhoneNumber);
+    /// Whether the outside-line prefix goes in front of `strPhoneNumber`.
+    bool isPrefixNeeded(KesDialRulesItem* myKesDialRulesItem, std::string strPhoneNumber);
+
+    static KesNumberingRules* instance;
+    static KesNumberingConfig* config;
+    static Logger* logger;
+
+    /// Service characters: kept in a number, which then is a service code and is not converted.
+    static std::string TELEPHONENUMBER_SPECIAL_CHARACTER;
+    /// Presentation characters, dropped by every conversion.
+    static std::string TELEPHONENUMBER_FORMAT_CHARACTER;
+
+private:
+    std::string validNumber(std::string strPhoneNumber);
+    std::string checkPhoneNumber(std::string strPhoneNumber);
+};
+
+} // namespace numbering
+
+#endif

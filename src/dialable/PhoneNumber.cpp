@@ -1,0 +1,110 @@
+#include "numbering/KesNumberingRules.h"
+
+#include "numbering/KesDialRulesItem.h"
+#include "numbering/Logger.h"
+#include "rules/ConversionGuard.h"
+#include "rules/NumberText.h"
+
+#include <algorithm>
+
+namespace numbering {
+
+namespace {
+
+/// Whether the number as the user gave it already seized an outside line: it begins with the
+/// outside-line prefix, or it is canonical. Without an outside-line prefix nothing did.
+bool hadExternalPrefix(const std::string& number, const std::string& ext) {
+    return !ext.empty() && (startsWith(number, ext) || startsWith(number, '+'));
+}
+
+/// The outside-line prefix decision shared by makePhoneNumber and addExternalPrefix: the prefix
+/// goes in front when the installation's rules want it. A number the user explicitly dialled with
+/// the prefix keeps it even where the rules would not add it (a short number, an exception).
+std::string withExternalPrefix(KesNumberingRules& facade, KesDialRulesItem* rules, const std::string& ext,
+                               bool hadPrefix, std::string dial) {
+    if (facade.isPrefixNeeded(rules, dial))
+        return ext + dial;
+    if (!hadPrefix || startsWith(dial, ext))
+        return dial;
+    return ext + dial;
+}
+
+bool containsServiceCharacter(const std::string& number) {
+    return std::any_of(number.begin(), number.end(), isServiceCharacter);
+}
+
+} // namespace
+
+std::string KesNumberingRules::makePhoneNumber(KesDialRulesItem* myKesDialRulesItem,
+                                               std::string strPhoneNumber) {
+    requireArguments(myKesDialRulesItem, strPhoneNumber);
+    if (contains(strPhoneNumber, "***"))
+        return strPhoneNumber;
+    if (Logger::m_Traces)
+        logger->debug("makePhoneNumber with : " + strPhoneNumber);
+    auto convert = [&]() -> std::string {
+        trimTypedNumber(strPhoneNumber);
+        const bool canonical = strPhoneNumber.at(0) == '+'; // only white space: std::out_of_range
+        const std::string ext = myKesDialRulesItem->getExtPrefix();
+        const bool hadPrefix = hadExternalPrefix(strPhoneNumber, ext);
+        // Without an outside-line prefix only canonical input is converted.
+        if (ext.empty() && !canonical)
+            return checkPhoneNumber(strPhoneNumber);
+        const bool special = !canonical && containsServiceCharacter(strPhoneNumber);
+        if (Logger::m_Traces)
+            logger->debug(std::string("containsSpecialCharacter : ") + (special ? "true" : "false"));
+        // Service codes such as "*12#" are never converted nor prefixed.
+        if (special)
+            return checkPhoneNumber(strPhoneNumber);
+        const std::string canonicalNumber =
+            makeCanonicalNumber(myKesDialRulesItem, strPhoneNumber, "", false);
+        if (canonicalNumber.empty())
+            return std::string();
+        std::string dial = makeDialableNumber(myKesDialRulesItem, canonicalNumber);
+        if (dial.empty())
+            return dial;
+        return withExternalPrefix(*this, myKesDialRulesItem, ext, hadPrefix, std::move(dial));
+    };
+    return guardConversion(convert, [&](const char* what) {
+        logConversionFailure(logger, "makePhoneNumber", what, strPhoneNumber, "", myKesDialRulesItem);
+        return std::string();
+    });
+}
+
+std::string KesNumberingRules::addExternalPrefix(KesDialRulesItem* myKesDialRulesItem,
+                                                 std::string strPhoneNumber) {
+    requireArguments(myKesDialRulesItem, strPhoneNumber);
+    if (contains(strPhoneNumber, "***"))
+        return strPhoneNumber;
+    if (Logger::m_Traces)
+        logger->debug("addExternalPrefix with : " + strPhoneNumber);
+    auto convert = [&]() -> std::string {
+        const std::string ext = myKesDialRulesItem->getExtPrefix();
+        // Read on the number as given: this operation trims only without an outside-line prefix.
+        const bool hadPrefix = hadExternalPrefix(strPhoneNumber, ext);
+        if (ext.empty()) {
+            Poco::trimInPlace(strPhoneNumber);
+            if (strPhoneNumber.at(0) != '+') // only white space: std::out_of_range
+                return checkPhoneNumber(strPhoneNumber);
+        }
+        std::string dial;
+        if (startsWith(strPhoneNumber, '+')) {
+            const std::string canonicalNumber =
+                makeCanonicalNumber(myKesDialRulesItem, strPhoneNumber, "", false);
+            if (!canonicalNumber.empty())
+                dial = makeDialableNumber(myKesDialRulesItem, canonicalNumber);
+        } else {
+            // Not canonical: only checked, never converted.
+            dial = checkPhoneNumber(strPhoneNumber);
+        }
+        if (dial.empty())
+            return dial;
+        return withExternalPrefix(*this, myKesDialRulesItem, ext, hadPrefix, std::move(dial));
+    };
+    return guardConversion(convert, [&](const char* what) {
+        logConversionFailure(logger, "addExternalPrefix", what, strPhoneNumber, "", myKesDialRulesItem);
+        return std::string();
+    });
+}
+
+} // namespace numbering

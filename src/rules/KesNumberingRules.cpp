@@ -1,0 +1,355 @@
+#include "numbering/KesNumberingRules.h"
+
+#include "ConversionGuard.h"
+#include "NumberText.h"
+#include "numbering/KesCNP.h"
+#include "numbering/KesCNPManager.h"
+#include "numbering/KesCountryRuleItem.h"
+#include "numbering/KesDialRulesItem.h"
+#include "numbering/KesDialable.h"
+#include "numbering/KesDialableManager.h"
+#include "numbering/KesNumberingConfig.h"
+#include "numbering/Logger.h"
+
+#include <memory>
+#include <stdexcept>
+#include <typeinfo>
+
+namespace numbering {
+
+KesNumberingRules* KesNumberingRules::instance = nullptr;
+KesNumberingConfig* KesNumberingRules::config = nullptr;
+Logger* KesNumberingRules::logger = Logger::getLogger(typeid(KesNumberingRules).name());
+
+std::string KesNumberingRules::TELEPHONENUMBER_SPECIAL_CHARACTER = "*#ABCD";
+std::string KesNumberingRules::TELEPHONENUMBER_FORMAT_CHARACTER = " ()-.";
+
+KesNumberingRules* KesNumberingRules::getInstance() {
+    if (instance == nullptr)
+        instance = new KesNumberingRules();
+    return instance;
+}
+
+void KesNumberingRules::resetInstance() {
+    if (Logger::m_Traces)
+        logger->debug("Releasing resources");
+    // The caches hold plans and strategies built from the store's rules: they go first.
+    KesCNPManager::resetInstance();
+    KesDialableManager::resetInstance();
+    KesNumberingConfig::resetInstance();
+    config = nullptr;
+    // The class has no virtual destructor; the singleton is always made by getInstance() as a
+    // KesNumberingRules itself, so the destructor called here is the right one.
+#pragma GCC diagnostic push
+#pragma GCC diagnostic ignored "-Wdelete-non-virtual-dtor"
+    delete instance;
+#pragma GCC diagnostic pop
+    instance = nullptr;
+}
+
+KesNumberingRules::KesNumberingRules() {
+    if (Logger::m_Traces)
+        logger->debug("KesNumberingRules()");
+    if (config == nullptr)
+        config = KesNumberingConfig::getInstance();
+}
+
+std::vector<std::string> KesNumberingRules::getCountryList() {
+    return config->getCountryList();
+}
+
+std::string KesNumberingRules::getCountryCode(std::string countryName) {
+    return config->getCountryCodeFromName(std::move(countryName));
+}
+
+std::string KesNumberingRules::getCountryName(std::string countryCode) {
+    return config->getCountryName(std::move(countryCode));
+}
+
+std::string KesNumberingRules::getCountryCodeFromNumber(std::string countryNumber) {
+    return config->getCountryCodeFromNumber(std::move(countryNumber));
+}
+
+namespace {
+
+/// Where the canonical conversion stands once it has told what kind of number it holds.
+struct Conversion {
+    std::string canNumber;      // the number being converted
+    std::string strCountryCode; // the country it belongs to, "" when unknown
+    bool kindKnown = false;     // recognised as international or national
+    KesDialRulesItem* rules;    // the installation's rules, or those of the destination country
+    std::unique_ptr<KesDialRulesItem> destinationRules;
+
+    explicit Conversion(KesDialRulesItem* installation) : rules(installation) {}
+
+    /// From here on the number is a national number of `countryCode`, read with that country's rules.
+    void takeDestination(const std::string& countryCode) {
+        destinationRules.reset(new KesDialRulesItem(countryCode, "", 0, "", 0, ""));
+        rules = destinationRules.get();
+        strCountryCode = countryCode;
+        kindKnown = true;
+    }
+};
+
+/// The digits and service characters of a number not in international form; the scan ends at a
+/// "|". Sets `serviceCode` when a service character is met; any character that is neither a digit
+/// nor a presentation character rejects the number.
+std::string cleanNationalNumber(const std::string& strValid, bool& serviceCode) {
+    std::string digits;
+    const std::string::size_type end = strValid.find('|');
+    const std::string::size_type length = end == std::string::npos ? strValid.size() : end;
+    for (std::string::size_type i = 0; i < length; ++i) {
+        const char c = strValid[i];
+        if (isDigit(c)) {
+            digits += c;
+        } else if (isServiceCharacter(c)) {
+            digits += c;
+            serviceCode = true;
+        } else if (!isFormatCharacter(c)) {
+            if (Logger::m_Traces)
+                KesNumberingRules::logger->debug("MakeCanonical : wrong character in number : " + strValid);
+            throw std::invalid_argument("'strPhoneNumber' parameter is not a phone number");
+        }
+    }
+    return digits;
+}
+
+/// A number dialled with the international prefix: finds the destination country behind it and any
+/// operator prefix. Calling back into the own country keeps the operator prefix, since it is dialled
+/// nationally as well; calling another country drops it.
+void readInternationalPrefix(Conversion& work, const std::string& strPhoneNumber, const std::string& digits,
+                             const std::string& internatPfx, KesCountryRuleItem* countryRule) {
+    KesNumberingConfig* config = KesNumberingRules::config;
+    Logger* logger = KesNumberingRules::logger;
+    KesDialable* dialable = requireDialable(countryRule->getCountryNumber());
+    const std::string opPrefix = dialable->extractOperatorPrefix(digits.substr(internatPfx.size()));
+    const std::string::size_type skip = internatPfx.size() + opPrefix.size();
+    const std::string countryNumber = config->extractCountryNumber(digits.substr(skip));
+    const std::string destCode = config->getCountryCodeFromNumber(countryNumber);
+    if (destCode.empty()) {
+        if (Logger::m_Traces)
+            logger->debug("International number detected but no country code was found '" + strPhoneNumber +
+                          "'");
+        return;
+    }
+    if (Logger::m_Traces)
+        logger->debug("International number detected : '" + digits + "' with CountryCode '" + destCode + "'");
+    work.canNumber = requireCountryRule(config, destCode)->getLongDistPrefix();
+    if (destCode == work.strCountryCode)
+        work.canNumber += opPrefix;
+    work.canNumber.append(digits, skip + countryNumber.size(), std::string::npos);
+    work.takeDestination(destCode);
+}
+
+/// A number dialled with the national prefix, or in a country that writes local and national
+/// numbers alike, is national; anything else may be local.
+bool isNationalByPrefix(const std::string& strPhoneNumber, KesCountryRuleItem* countryRule) {
+    Logger* logger = KesNumberingRules::logger;
+    const std::string ldp = countryRule->getLongDistPrefix();
+    if (ldp.empty()) {
+        const std::string localRule = countryRule->getLocalRule();
+        const std::string longDistRule = countryRule->getLongDistRule();
+        if ((longDistRule.empty() && localRule == "G") || longDistRule == localRule) {
+            if (Logger::m_Traces)
+                logger->debug("There is no difference between local and national phone number format'" +
+                              strPhoneNumber + "'");
+            return true;
+        }
+        return false;
+    }
+    if (startsWith(strPhoneNumber, ldp)) {
+        if (Logger::m_Traces)
+            logger->debug("National number detected '" + strPhoneNumber + "'");
+        return true;
+    }
+    return false;
+}
+
+/// A number in international form: its calling code names the country, and the rest is written as
+/// that country dials it nationally, so that the country's plan can take it from there.
+void readInternationalForm(Conversion& work, KesNumberingRules& facade, const std::string& strValid) {
+    KesNumberingConfig* config = KesNumberingRules::config;
+    std::string countryNumber = facade.extractCountryNumberFromCanonicalNumber(strValid);
+    if (countryNumber.empty()) {
+        countryNumber = config->extractCountryNumber(strValid.substr(1));
+        work.strCountryCode = config->getCountryCodeFromNumber(countryNumber);
+    } else {
+        work.strCountryCode = config->getCountryCodeFromNumber(countryNumber);
+        // "+33123456789": the run of digits is more than the calling code.
+        if (work.strCountryCode.empty()) {
+            countryNumber = config->extractCountryNumber(countryNumber);
+            work.strCountryCode = config->getCountryCodeFromNumber(countryNumber);
+        }
+    }
+    if (work.strCountryCode.empty()) {
+        if (Logger::m_Traces)
+            KesNumberingRules::logger->debug("No country code found for country number '" + countryNumber +
+                                             "'");
+        return;
+    }
+    std::string national;
+    for (std::string::size_type i = countryNumber.size() + 1; i < strValid.size(); ++i)
+        if (isDigit(strValid[i]))
+            national += strValid[i];
+    work.takeDestination(work.strCountryCode);
+    KesCountryRuleItem* countryRule = requireCountryRule(config, work.strCountryCode);
+    std::string noArea;
+    work.canNumber =
+        requireDialable(countryNumber)->makeLongDistDialableNumber(noArea, national, countryRule, work.rules);
+}
+
+} // namespace
+
+std::string KesNumberingRules::makeCanonicalNumber(KesDialRulesItem* myKesDialRulesItem,
+                                                   std::string strPhoneNumber, std::string strPattern) {
+    return makeCanonicalNumber(myKesDialRulesItem, std::move(strPhoneNumber), std::move(strPattern), false);
+}
+
+std::string KesNumberingRules::makeCanonicalNumber(KesDialRulesItem* myKesDialRulesItem,
+                                                   std::string strPhoneNumber, std::string strPattern,
+                                                   bool withExternalPrefix) {
+    requireArguments(myKesDialRulesItem, strPhoneNumber);
+    auto convert = [&]() -> std::string {
+        if (contains(strPhoneNumber, "***"))
+            return strPhoneNumber;
+        if (Logger::m_Traces)
+            logger->debug("MakeCanonicalNumber with : " + strPhoneNumber);
+        trimTypedNumber(strPhoneNumber);
+        if (withExternalPrefix) {
+            const std::string ext = myKesDialRulesItem->getExtPrefix();
+            if (ext.empty())
+                return std::string();
+            if (startsWith(strPhoneNumber, ext))
+                strPhoneNumber.erase(0, ext.size());
+        }
+        const std::string strValid = validNumber(strPhoneNumber);
+        const std::string strAreaCode = extractAreaCodeOrNatPrefixFromCanonicalNumber(strValid);
+        const bool internationalForm = strValid.at(0) == '+'; // nothing left: std::out_of_range
+
+        Conversion work(myKesDialRulesItem);
+        if (!internationalForm) {
+            bool serviceCode = false;
+            std::string digits = cleanNationalNumber(strValid, serviceCode);
+            if (serviceCode)
+                return digits; // a service code is never made canonical
+            work.strCountryCode = myKesDialRulesItem->getCountryId();
+            KesCountryRuleItem* countryRule = requireCountryRule(config, work.strCountryCode);
+            const std::string internatPfx = countryRule->getInternatPfx();
+            // The prefix tests look at the number as typed, not at its digits.
+            if (isPrefixNeeded(myKesDialRulesItem, strPhoneNumber)) {
+                if (startsWith(strPhoneNumber, internatPfx))
+                    readInternationalPrefix(work, strPhoneNumber, digits, internatPfx, countryRule);
+                else
+                    work.kindKnown = isNationalByPrefix(strPhoneNumber, countryRule);
+            }
+            // Unless the international prefix led to another country's national number.
+            if (!work.destinationRules)
+                work.canNumber = std::move(digits);
+        } else {
+            readInternationalForm(work, *this, strValid);
+        }
+
+        // The country's plan, or the generic rules, write the number in canonical form.
+        std::string& canNumber = work.canNumber;
+        if (work.strCountryCode.empty()) {
+            canNumber = strValid;
+        } else {
+            KesCNP* plan = KesCNPManager::getInstance()->getCNP(work.strCountryCode);
+            KesDialRulesItem* rules = work.rules;
+            bool needed = true;
+            if (rules->isLocalNumber(canNumber) || rules->isExceptionNumber(canNumber))
+                needed = startsWith(canNumber, rules->getExtPrefix()) || internationalForm;
+            if (!needed) {
+                if (Logger::m_Traces)
+                    logger->debug("Nothing to do for" + canNumber);
+            } else if (plan != nullptr) {
+                std::string cleaned = checkPhoneNumber(canNumber);
+                if (cleaned.empty()) {
+                    if (Logger::m_Traces)
+                        logger->debug("Altered Source Number : '" + canNumber + "'");
+                } else {
+                    canNumber = std::move(cleaned);
+                    if (!contains(canNumber, "***")) {
+                        if (Logger::m_Traces)
+                            logger->debug("Source number to be altered : '" + canNumber + "'");
+                        canNumber = plan->dlr_Country_MakeCanonicalNumber(canNumber, rules);
+                    }
+                }
+            } else {
+                if (Logger::m_Traces)
+                    logger->debug("No special format defined for country " + work.strCountryCode);
+                if (internationalForm)
+                    canNumber = generateDefaultCanonicalNumber(canNumber, work.strCountryCode, strAreaCode);
+                else if (work.kindKnown)
+                    canNumber = generateDefaultCanonicalNumber(canNumber, work.strCountryCode, "");
+                else if (Logger::m_Traces)
+                    logger->debug("Can't translate to a canonical phone number : we don't known if '" +
+                                  canNumber + "' is a local or national phone number");
+            }
+        }
+        if (canNumber.at(0) == '+') // nothing left: std::out_of_range
+            return formatCanonicalNumber(canNumber, strPattern);
+        return canNumber;
+    };
+    return guardConversion(convert, [&](const char* what) {
+        logConversionFailure(logger, "makeCanonicalNumber", what, strPhoneNumber,
+                             ", Pattern: '" + strPattern + "'", myKesDialRulesItem);
+        return std::string();
+    });
+}
+
+std::string KesNumberingRules::validNumber(std::string strPhoneNumber) {
+    Poco::trimInPlace(strPhoneNumber);
+    const std::string& number = strPhoneNumber;
+    if (number.size() < 2 || number[0] != '+')
+        return strPhoneNumber;
+    const std::string::size_type length = number.size();
+    std::string result;
+    result.reserve(KesNumberingConfig::MAX_PHONE_NUMBER_LENGTH);
+    result += '+';
+    std::string::size_type i = 1;
+    while (i < length && !isDigit(number[i]))
+        ++i;
+    while (i < length && isDigit(number[i]))
+        result += number[i++];
+    while (i < length && !isDigit(number[i]))
+        ++i;
+    // The next run of digits is the area code, unless the number was written without separators
+    // ("+33123456789") or nothing follows the calling code: then the calling code stands alone.
+    if (i < length) {
+        result += " (";
+        while (i < length && isDigit(number[i]))
+            result += number[i++];
+        result += ") ";
+        if (Logger::m_Traces)
+            logger->debug("ValidNumber CountryCode + AreaCode : " + result);
+        // The parenthesis that closed the area code is written already.
+        while (i < length && number[i] == ' ')
+            ++i;
+        if (i < length && number[i] == ')')
+            ++i;
+        for (; i < length; ++i)
+            if (number[i] != ' ')
+                result += number[i];
+    }
+    if (Logger::m_Traces)
+        logger->debug("validNumber before : " + strPhoneNumber + ", after : " + result);
+    return result;
+}
+
+std::string KesNumberingRules::checkPhoneNumber(std::string strPhoneNumber) {
+    std::string result;
+    for (char c : strPhoneNumber) {
+        if (isDigit(c) || isServiceCharacter(c)) {
+            result += c;
+        } else if (!isFormatCharacter(c)) {
+            result.clear();
+            break;
+        }
+    }
+    if (Logger::m_Traces)
+        logger->debug("checkPhoneNumber('" + strPhoneNumber + "') returns '" + result + "'");
+    return result;
+}
+
+} // namespace numbering

@@ -1,0 +1,86 @@
+#ifndef NUMBERING_TESTS_RULES_FACADEWORLD_H
+#define NUMBERING_TESTS_RULES_FACADEWORLD_H
+
+// The configuration the facade's tests convert in. Sweden, Italy, Spain, Poland, Belarus, Denmark
+// and Norway have no numbering plan, so the generic rules alone decide their canonical numbers;
+// France, Germany, Colombia and New Zealand have one.
+
+#include "TestConfig.h"
+#include "TestHost.h"
+
+#include "numbering/KesDialRulesItem.h"
+#include "numbering/KesNumberingRules.h"
+
+#include <gtest/gtest.h>
+
+#include <stdexcept>
+#include <string>
+
+namespace facadeworld {
+
+// Field order: calling code, international prefix, international rule, long-distance rule, local
+// rule, name, primary flag.
+inline const char* const DIALING_RULES =
+    "BY = 375:810:EF:8F::Belarus:P\n"   // national prefix 8
+    "CO = 57:00:EF:0F::Colombia:P\n"    // has a plan
+    "DE = 49:00:EF:0F::Germany:P\n"     // has a plan
+    "DK = 45:00:EF:I:F:Denmark:P\n"     // local and national differ, no prefix
+    "ES = 34:00:EF:F:F:Spain:P\n"       // local and national alike
+    "FR = 33:00:EF:0F::France:P\n"      // has a plan
+    "IT = 39:00:EF:F:F:Italy:P\n"       // local and national alike
+    "NO = 47:00:EF::G:Norway:P\n"       // no long-distance rule, local "G"
+    "NZ = 64:00:EF:F:F:New Zealand:P\n" // has a plan, no national prefix
+    "PL = 48:00:EF:0F::Poland:P\n"      // national prefix 0
+    "SE = 46:00:EF:0F::Sweden:P\n";     // national prefix 0, area codes
+
+/// Each test starts from this world, without masks, and from fresh singletons.
+class FacadeTest : public ::testing::Test {
+protected:
+    void SetUp() override {
+        testconfig::clearAll();
+        testconfig::write("dialingrules.properties", DIALING_RULES);
+        testconfig::reload();
+        facade = numbering::KesNumberingRules::getInstance();
+        testhost::clear();
+    }
+
+    void TearDown() override { testconfig::reload(); }
+
+    /// Installs masks ("Mask_46_1 = ...") and reloads.
+    void useMasks(const std::string& masks) {
+        testconfig::write("dlr_cnp_mask.properties", masks);
+        testconfig::reload();
+        facade = numbering::KesNumberingRules::getInstance();
+    }
+
+    numbering::KesNumberingRules* facade = nullptr;
+};
+
+/// An installation in Stockholm (area code 8) that seizes an outside line with "0".
+inline numbering::KesDialRulesItem stockholm(int localNbLength = 0, const std::string& exceptNbBegin = "") {
+    return numbering::KesDialRulesItem("SE", "0", localNbLength, "8", 0, exceptNbBegin);
+}
+
+/// An installation in Paris (area code 1) that seizes an outside line with "0".
+inline numbering::KesDialRulesItem paris(int localNbLength = 0, const std::string& exceptNbBegin = "") {
+    return numbering::KesDialRulesItem("FR", "0", localNbLength, "1", 0, exceptNbBegin);
+}
+
+/// The text of the std::invalid_argument that `call` throws, or "nothing thrown".
+template <class Call> std::string invalidArgumentText(Call call) {
+    try {
+        call();
+    } catch (const std::invalid_argument& e) {
+        return e.what();
+    }
+    return "nothing thrown";
+}
+
+/// The error line a conversion logs for `rules` (the NUL that ends ToString() ends the line).
+inline std::string withDialRules(const std::string& head, numbering::KesDialRulesItem& rules) {
+    return "ERROR N9numbering17KesNumberingRulesE - " + head + "\n  DialRules: " + rules.ToString().c_str();
+}
+
+} // namespace facadeworld
+
+#endif
