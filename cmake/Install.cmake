@@ -20,8 +20,6 @@ write_basic_package_version_file(${PROJECT_BINARY_DIR}/NumberingConfigVersion.cm
 install(FILES ${PROJECT_BINARY_DIR}/NumberingConfig.cmake ${PROJECT_BINARY_DIR}/NumberingConfigVersion.cmake
   DESTINATION ${NUMBERING_INSTALL_CMAKEDIR} COMPONENT development)
 
-set(NUMBERING_PC_LIBDIR ${CMAKE_INSTALL_FULL_LIBDIR})
-set(NUMBERING_PC_INCLUDEDIR ${CMAKE_INSTALL_FULL_INCLUDEDIR})
 configure_file(cmake/numbering.pc.in ${PROJECT_BINARY_DIR}/numbering.pc @ONLY)
 install(FILES ${PROJECT_BINARY_DIR}/numbering.pc DESTINATION ${CMAKE_INSTALL_LIBDIR}/pkgconfig
   COMPONENT development)

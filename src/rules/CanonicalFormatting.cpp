@@ -93,10 +93,9 @@ std::string KesNumberingRules::formatCanonicalNumber(std::string strCanPhoneNumb
             if (strPattern.empty()) {
                 std::string countryNumber = between(strCanPhoneNumber, 1, open);
                 Poco::trimInPlace(countryNumber);
+                // A country without a mask gets the empty one, which keeps only the subscriber
+                // number: the shipped configuration has a mask for every calling code.
                 strPattern = config->getDefaultPattern(countryNumber);
-                // No mask for the country: the number keeps the layout it has.
-                if (strPattern.empty())
-                    return strCanPhoneNumber;
             }
             const CanonicalParts parts = splitCanonical(strCanPhoneNumber, open);
             std::string::size_type pos = parts.subscriber;

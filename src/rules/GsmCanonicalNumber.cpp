@@ -45,9 +45,12 @@ std::string KesNumberingRules::formatToGSMCanonicalNumber(std::string strCanPhon
             result += '+';
             result += countryNumber;
             result += area;
-            // The blank behind ")" is skipped; the subscriber part is copied as it stands.
-            if (close != std::string::npos && close + 2 < strCanPhoneNumber.size())
-                result.append(strCanPhoneNumber, close + 2, std::string::npos);
+            // The blank behind ")" is skipped, and so are the blanks and separators a display mask
+            // put into the subscriber part: the GSM form is "+" and digits only.
+            if (close != std::string::npos)
+                for (std::string::size_type i = close + 2; i < strCanPhoneNumber.size(); ++i)
+                    if (!isFormatCharacter(strCanPhoneNumber[i]))
+                        result += strCanPhoneNumber[i];
             return result;
         },
         [&](const char* what) {

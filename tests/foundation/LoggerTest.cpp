@@ -10,6 +10,8 @@ TEST(Logger, EveryCallMakesADistinctLogger) {
     Logger* second = Logger::getLogger("N9numbering4SameE");
     EXPECT_NE(first, second);
     EXPECT_EQ(first->name, second->name);
+    delete first;
+    delete second;
 }
 
 TEST(Logger, LinesCarryLevelNameSeparatorAndMessage) {
@@ -23,6 +25,7 @@ TEST(Logger, LinesCarryLevelNameSeparatorAndMessage) {
     EXPECT_EQ(testhost::lines()[1], "INFO N9numbering18KesNumberingConfigE - info text");
     // An empty message leaves the line ending in the separator's blank.
     EXPECT_EQ(testhost::lines()[2], "ERROR N9numbering18KesNumberingConfigE - ");
+    delete logger;
 }
 
 // The test program defines FlogWrite and Logger::m_Traces itself, as a host does: the library must

@@ -18,7 +18,7 @@ cmake --build "$work/cmake-build" >/dev/null
 echo "find_package consumer: $("$work/cmake-build/consumer")"
 
 PKG_CONFIG_PATH="$libdir/pkgconfig" \
-  g++ -std=c++17 "$source_dir/main.cpp" -o "$work/pc-consumer" $(PKG_CONFIG_PATH="$libdir/pkgconfig" pkg-config --cflags --libs numbering)
+  g++ -std=c++17 "$source_dir/main.cpp" -o "$work/pc-consumer" $(PKG_CONFIG_PATH="$libdir/pkgconfig" pkg-config --define-prefix --cflags --libs numbering)
 echo "pkg-config consumer: $("$work/pc-consumer")"
 
 test -x "$work/prefix/bin/numbering"

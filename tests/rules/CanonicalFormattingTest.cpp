@@ -63,8 +63,8 @@ TEST_F(CanonicalFormatting, MaskLetters) {
 TEST_F(CanonicalFormatting, EmptyPatternTakesTheCountryMask) {
     useMasks("Mask_33_1 = +C (a) xx xx xx xx\nMask_33_2 = C A\n");
     EXPECT_EQ(facade->formatCanonicalNumber("+33 (1) 23456789", ""), "+33 (1) 23 45 67 89");
-    // No mask for the country: the number keeps its layout.
-    EXPECT_EQ(facade->formatCanonicalNumber("+39 (06) 12345678", ""), "+39 (06) 12345678");
+    // No mask for the country: the empty mask keeps only the subscriber number.
+    EXPECT_EQ(facade->formatCanonicalNumber("+39 (06) 12345678", ""), "12345678");
 }
 
 } // namespace

@@ -33,12 +33,13 @@ inline const char* const DIALING_RULES =
     "PL = 48:00:EF:0F::Poland:P\n"      // national prefix 0
     "SE = 46:00:EF:0F::Sweden:P\n";     // national prefix 0, area codes
 
-/// Each test starts from this world, without masks, and from fresh singletons.
+/// Each test starts from this world, with masks that keep every layout, and from fresh singletons.
 class FacadeTest : public ::testing::Test {
 protected:
     void SetUp() override {
         testconfig::clearAll();
         testconfig::write("dialingrules.properties", DIALING_RULES);
+        testconfig::write("dlr_cnp_mask.properties", testconfig::identityMasks());
         testconfig::reload();
         facade = numbering::KesNumberingRules::getInstance();
         testhost::clear();

@@ -26,8 +26,9 @@ TEST_F(GsmCanonicalNumber, CompactsCanonicalNumbers) {
         {"+39 (0) 612345", "+390612345"},
         // An unknown country keeps its area part.
         {"+999 (0) 1234", "+99901234"},
-        // Blanks inside the subscriber part stay.
-        {"+46 (8) 123 45", "+468123 45"},
+        // Blanks and separators a mask put into the subscriber part go.
+        {"+46 (8) 123 45", "+46812345"},
+        {"+46 (8) 12-34.5", "+46812345"},
         {"+46 (8)", "+468"},
         {"+46 8 123", "+46 8 123"},
         {"+46 (8) 1***2", "+46 (8) 1***2"},

@@ -57,9 +57,20 @@ void clearAll() {
 // The facade tears down the plan and strategy caches and the store with itself.
 void reload() { numbering::KesNumberingRules::resetInstance(); }
 
+const std::string& identityMasks() {
+    static const std::string masks = [] {
+        std::string text;
+        for (int countryNumber = 1; countryNumber <= 999; ++countryNumber)
+            text += "Mask_" + std::to_string(countryNumber) + "_1 = +C (A) x\n";
+        return text;
+    }();
+    return masks;
+}
+
 void useStandardWorld() {
     clearAll();
     write("dialingrules.properties", STANDARD_DIALING_RULES);
+    write("dlr_cnp_mask.properties", identityMasks());
     reload();
 }
 

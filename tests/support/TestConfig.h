@@ -21,7 +21,11 @@ void reload();
 /// A small world of countries, enough for the conversions under test (France, Germany, the
 /// United Kingdom, the United States with Canada sharing +1, Russia, Italy ...).
 extern const char* const STANDARD_DIALING_RULES;
-/// Clears the directory, writes the standard dialing rules as installation file, and reloads.
+/// Masks that lay every canonical number out as it stands ("+C (A) x"), for every calling code of
+/// one to three digits: a country without a mask would keep only its subscriber number.
+const std::string& identityMasks();
+/// Clears the directory, writes the standard dialing rules and the identity masks as installation
+/// files, and reloads.
 void useStandardWorld();
 
 } // namespace testconfig
