@@ -534,6 +534,18 @@ def activation():
 
 
 # ---------------------------------------------------------------------------------------------
+# Example numbers (the input set of the tests and benchmarks that run on the shipped world)
+
+
+def example_numbers(facts):
+    rows = ["iso2\tcalling_code\tnational_prefix\tinternational_prefix\tfixed_example\tmobile_example"]
+    for row in sorted(facts.countries, key=lambda r: r["iso2"]):
+        rows.append("\t".join([row["iso2"], row["calling_code"], row["national_prefix"], international_prefix(row),
+                               row["fixed_example"], row["mobile_example"]]))
+    return "\n".join(rows) + "\n"
+
+
+# ---------------------------------------------------------------------------------------------
 # Driver
 
 
@@ -550,6 +562,7 @@ def generate(facts_dir):
     operators = colombian_operators(facts)
     files["tz310cnp_57.properties"] = operators
     files["tz310cnp_57_default.properties"] = operators
+    files["example_numbers.tsv"] = example_numbers(facts)
     return files
 
 
@@ -564,8 +577,8 @@ def write_files(files, out_dir):
 # Exit status when the facts directory is absent (CTest can map it to "skipped").
 FACTS_MISSING = 77
 
-GENERATED_NAME = re.compile(r"^(dialingrules|dlr_cnp_mask|specific_format_activation|tz310cnp_\d+)"
-                            r"(_default)?\.properties$")
+GENERATED_NAME = re.compile(r"^((dialingrules|dlr_cnp_mask|specific_format_activation|tz310cnp_\d+)"
+                            r"(_default)?\.properties|example_numbers\.tsv)$")
 
 
 def check(files, out_dir):
