@@ -10,6 +10,7 @@
 
 #include <cstdint>
 #include <fstream>
+#include <stdexcept>
 #include <string>
 
 using namespace numbering;

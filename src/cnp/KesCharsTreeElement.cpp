@@ -3,6 +3,7 @@
 #include "numbering/Logger.h"
 
 #include <algorithm>
+#include <stdexcept>
 #include <typeinfo>
 #include <vector>
 
@@ -14,6 +15,10 @@ Logger* KesCharsTreeElement::logger = Logger::getLogger(typeid(KesCharsTreeEleme
 namespace {
 
 const std::size_t BUCKETS = 64;
+
+// Codes are area codes and operator prefixes, a few digits long. The walks and the destruction of a
+// subtree recurse once per level, so an absurd code (a corrupt file) must not make the tree deep.
+const std::string::size_type MAX_CODE_LENGTH = 64;
 
 } // namespace
 
@@ -82,6 +87,8 @@ void KesCharsTreeElement::insert(KesCharsTreeElement* node) {
 void KesCharsTreeElement::insert(std::string code) {
     if (code.empty())
         return;
+    if (code.size() > MAX_CODE_LENGTH)
+        throw std::length_error("Code longer than " + std::to_string(MAX_CODE_LENGTH) + " characters");
     // The chain is built from the last character back, so that its flagged end is made first.
     KesCharsTreeElement* head = nullptr;
     try {

@@ -41,6 +41,16 @@ TEST(KesCharsTree, EmptyCodeIsRejected) {
     EXPECT_TRUE(tree.root.getElements().empty());
 }
 
+// The tree's walks recurse once per level: a corrupt file's megabyte "code" must not make it deep.
+TEST(KesCharsTree, AbsurdlyLongCodeIsRejected) {
+    KesCharsTree tree;
+    tree.insert(std::string(64, '1'));
+    EXPECT_THROW(tree.insert(std::string(65, '2')), std::length_error);
+    EXPECT_THROW(tree.insert(std::string(1 << 20, '3')), std::length_error);
+    EXPECT_EQ(tree.root.numberOfStoredCodes(), 1);
+    EXPECT_EQ(tree.isPresent(std::string(100, '1')), std::string(64, '1'));
+}
+
 TEST(KesCharsTree, NodesAreOwnedOnceAndFreedWithTheLastReference) {
     int before = KesCharsTreeElement::_count;
     KesCharsTreeElement* kept = nullptr;

@@ -1,0 +1,168 @@
+// Configuration files as an installer's mistakes or a broken disk leave them: the library loads what
+// it can, logs, and keeps converting without taking the host down.
+#include "TestConfig.h"
+#include "TestHost.h"
+
+#include "numbering/KesClid.h"
+#include "numbering/KesDialRulesItem.h"
+#include "numbering/KesNumberingConfig.h"
+#include "numbering/KesNumberingRules.h"
+#include "numbering/KesUnsupportedCountryException.h"
+
+#include <gtest/gtest.h>
+
+#include <memory>
+#include <string>
+
+using namespace numbering;
+
+namespace {
+
+const char* const CONFIGURATION_FILES[] = {
+    "dialingrules.properties", "dlr_cnp_mask.properties", "specific_format_activation.properties",
+    "tz310cnp_49.properties",  "tz310cnp_43.properties",  "tz310cnp_31.properties",
+    "tz310cnp_32.properties",  "tz310cnp_44.properties",  "tz310cnp_353.properties",
+    "tz310cnp_61.properties",  "tz310cnp_54.properties",  "tz310cnp_52.properties",
+    "tz310cnp_57.properties"};
+
+const char* const COUNTRIES[] = {"FR", "DE", "AT", "NL", "BE", "GB", "IE", "AU", "AR", "MX",
+                                 "CO", "RU", "KZ", "US", "CH", "NZ", "IT", "XA"};
+
+const char* const NUMBERS[] = {"01 23 45 67 89", "+49 (89) 123456", "0111543215678", "033001234567", "0212345678",
+                               "84951234567",    "+7 495 1234567",  "5551234",       "+54 9 (11) 43215678",
+                               "0044 20 7946 0958", "*12#",         "   ",           "+",
+                               "(((((",          "12***34"};
+
+/// Every public conversion for every installation the rules accept, plus one built without checks.
+/// Returns how many conversions gave a non-empty answer.
+int convertEverything() {
+    KesNumberingRules* rules = KesNumberingRules::getInstance();
+    std::vector<std::unique_ptr<KesDialRulesItem>> sites;
+    sites.emplace_back(new KesDialRulesItem()); // "FR", whatever the rules say
+    sites.back()->setExtPrefix("0");
+    for (const char* country : COUNTRIES) {
+        try {
+            sites.emplace_back(new KesDialRulesItem(country, "0", 4, "11", 0, "00"));
+        } catch (const KesUnsupportedCountryException&) {
+        }
+    }
+    int answers = 0;
+    for (auto& site : sites) {
+        for (const char* number : NUMBERS) {
+            answers += !rules->makeCanonicalNumber(site.get(), number, "").empty();
+            answers += !rules->makeCanonicalNumber(site.get(), number, "", true).empty();
+            answers += !rules->makePhoneNumber(site.get(), number).empty();
+            answers += !rules->addExternalPrefix(site.get(), number).empty();
+            answers += !rules->makeGSMCanonicalNumber(site.get(), number, false).empty();
+            if (KesClid* clid = rules->makeClid(site.get(), number)) {
+                ++answers;
+                clid->release();
+            }
+        }
+    }
+    return answers;
+}
+
+class HostileConfiguration : public ::testing::Test {
+protected:
+    void SetUp() override { testconfig::clearAll(); }
+    void TearDown() override {
+        testconfig::clearAll();
+        testconfig::reload();
+    }
+
+    void writeEverywhere(const std::string& content) {
+        for (const char* file : CONFIGURATION_FILES)
+            testconfig::write(file, content);
+        testconfig::reload();
+    }
+};
+
+} // namespace
+
+TEST_F(HostileConfiguration, NoFilesAtAll) {
+    testconfig::reload();
+    convertEverything();
+    EXPECT_TRUE(testhost::logged("KesNumberingConfig::loadDialingRules Exception : "));
+    EXPECT_TRUE(KesNumberingConfig::getInstance()->getCountryList().empty());
+}
+
+TEST_F(HostileConfiguration, EmptyFiles) {
+    writeEverywhere("");
+    convertEverything();
+    EXPECT_TRUE(KesNumberingConfig::getInstance()->getCountryList().empty());
+}
+
+TEST_F(HostileConfiguration, BinaryGarbage) {
+    std::string garbage;
+    for (int i = 0; i < 4096; ++i)
+        garbage += static_cast<char>((i * 7919 + 13) % 256);
+    writeEverywhere(garbage);
+    convertEverything();
+    writeEverywhere(std::string("FR = 33:00:EF:0F::France:P\n") + garbage);
+    convertEverything();
+}
+
+TEST_F(HostileConfiguration, HugeFiles) {
+    std::string rules(testconfig::STANDARD_DIALING_RULES);
+    std::string areaCodes = "Translate=1\n";
+    for (int i = 0; i < 100000; ++i) {
+        rules += "Z" + std::to_string(i) + " = " + std::to_string(i % 1000) + ":00:EF:0F::Land " + std::to_string(i) + ":P\n";
+        areaCodes += "AC_" + std::to_string(10000 + i).substr(1) + "=" + std::to_string(100 + i % 900) + "\n";
+    }
+    testconfig::write("dialingrules.properties", rules);
+    for (const char* file : {"tz310cnp_49.properties", "tz310cnp_44.properties", "tz310cnp_54.properties"})
+        testconfig::write(file, areaCodes);
+    testconfig::reload();
+    EXPECT_GT(convertEverything(), 0);
+    EXPECT_EQ(KesNumberingConfig::getInstance()->getCountryNumber("FR"), "33");
+}
+
+TEST_F(HostileConfiguration, MegabyteKeysAndValues) {
+    const std::string megabyte(1 << 20, '7');
+    testconfig::write("dialingrules.properties", std::string(testconfig::STANDARD_DIALING_RULES) + "ZZ = " +
+                                                     megabyte + ":" + megabyte + ":EF\n" + megabyte + " = 1\n");
+    testconfig::write("dlr_cnp_mask.properties", "Mask_33_1 = " + megabyte + "\nMask_" + megabyte + "_1 = x\n");
+    testconfig::write("tz310cnp_49.properties", "Translate=1\nAC_0000=" + megabyte + "\n");
+    testconfig::write("tz310cnp_57.properties", "OP_DEFAULT=" + megabyte + "\nOP_0000=" + megabyte + "\n");
+    testconfig::reload();
+    EXPECT_GT(convertEverything(), 0);
+    EXPECT_EQ(KesNumberingConfig::getInstance()->getCountryNumber("DE"), "49");
+}
+
+TEST_F(HostileConfiguration, AreaCodesWithLetters) {
+    testconfig::useStandardWorld();
+    const char* codes = "Translate=1\nAC_0000=3a1\nAC_0001=89x\nAC_0002=abc\nAC_0003=30\n";
+    for (const char* file : {"tz310cnp_49.properties", "tz310cnp_44.properties", "tz310cnp_54.properties",
+                             "tz310cnp_61.properties", "tz310cnp_57.properties"})
+        testconfig::write(file, codes);
+    testconfig::reload();
+    EXPECT_GT(convertEverything(), 0);
+    // Leading digits count, and the first value without any ends the list: "3" and "89" only.
+    KesDialRulesItem munich("DE", "0", 0, "89", 0, "");
+    EXPECT_EQ(KesNumberingRules::getInstance()->makeCanonicalNumber(&munich, "0891234567", "+C (A) x"),
+              "+49 (89) 1234567");
+    EXPECT_EQ(KesNumberingRules::getInstance()->makeCanonicalNumber(&munich, "0301234567", "+C (A) x"),
+              "+49 (3) 01234567");
+}
+
+// The plans of France, Russia and Argentina, and the Russian and Argentine dialing, look their
+// country up by its two-letter key: without it they fall back to an empty national prefix.
+TEST_F(HostileConfiguration, RulesWithoutTheCountriesPlansLookUp) {
+    testconfig::write("dialingrules.properties", "DE = 49:00:EF:0F::Germany:P\n"
+                                                 "KZ = 7:810:EF:8F::Kazakhstan:P\n"
+                                                 "XA = 54:00:EF:0F::Argentine Republic:P\n"
+                                                 "XF = 33:00:EF:0F::French Republic:P\n");
+    testconfig::write("dlr_cnp_mask.properties", testconfig::identityMasks());
+    testconfig::write("tz310cnp_54.properties", "Translate=1\nAC_0000=11\n");
+    testconfig::reload();
+    EXPECT_GT(convertEverything(), 0);
+
+    KesNumberingRules* rules = KesNumberingRules::getInstance();
+    KesDialRulesItem kazakhstan("KZ", "0", 0, "727", 0, "");
+    EXPECT_EQ(rules->makeCanonicalNumber(&kazakhstan, "84951234567", ""), "+7 (495) 1234567");
+    KesDialRulesItem argentina("XA", "0", 0, "11", 0, "");
+    EXPECT_FALSE(rules->makePhoneNumber(&argentina, "+54 (11) 43215678").empty());
+    KesDialRulesItem france("XF", "0", 0, "1", 0, "");
+    EXPECT_EQ(rules->makeCanonicalNumber(&france, "0123456789", ""), "+33 (0) 123456789");
+}
