@@ -4,15 +4,7 @@
 set -euo pipefail
 cd "$(dirname "$0")/.."
 
-packages=(cmake make g++ libpoco-dev)
-missing=()
-for package in "${packages[@]}"; do
-  dpkg -s "$package" >/dev/null 2>&1 || missing+=("$package")
-done
-if [ ${#missing[@]} -gt 0 ]; then
-  apt-get update -qq
-  DEBIAN_FRONTEND=noninteractive apt-get install -y -qq "${missing[@]}"
-fi
+bash tools/install-packages.sh cmake make g++ libpoco-dev
 
 cmake -S . -B build-tool -DCMAKE_BUILD_TYPE=Release -DNUMBERING_BUILD_TESTS=OFF >/dev/null
 cmake --build build-tool -j"$(nproc)" --target numbering >/dev/null

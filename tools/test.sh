@@ -5,16 +5,8 @@
 set -euo pipefail
 cd "$(dirname "$0")/.."
 
-packages=(cmake make g++ clang libclang-rt-14-dev pkg-config python3
-          libpoco-dev libgtest-dev libgmock-dev libbenchmark-dev)
-missing=()
-for package in "${packages[@]}"; do
-  dpkg -s "$package" >/dev/null 2>&1 || missing+=("$package")
-done
-if [ ${#missing[@]} -gt 0 ]; then
-  apt-get update -qq
-  DEBIAN_FRONTEND=noninteractive apt-get install -y -qq "${missing[@]}"
-fi
+bash tools/install-packages.sh cmake make g++ clang libclang-rt-14-dev pkg-config python3 \
+  libpoco-dev libgtest-dev libgmock-dev libbenchmark-dev
 
 jobs=$(nproc)
 fuzz_seconds=${NUMBERING_FUZZ_SECONDS:-30}
