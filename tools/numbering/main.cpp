@@ -3,6 +3,7 @@
 
 #include "numbering/KesClid.h"
 #include "numbering/KesDialRulesItem.h"
+#include "numbering/KesNumberingConfig.h"
 #include "numbering/KesNumberingRules.h"
 #include "numbering/KesUnsupportedCountryException.h"
 #include "numbering/Logger.h"
@@ -27,7 +28,9 @@ void FlogWrite(const char* text, short) {
 
 namespace {
 
-bool isFile(const std::string& path) { return access(path.c_str(), R_OK) == 0; }
+bool isFile(const std::string& path) {
+    return access(path.c_str(), R_OK) == 0;
+}
 
 // The shipped configuration: beside an installed tool, else in the source tree it was built from.
 std::string shippedConfiguration() {
@@ -47,6 +50,8 @@ std::string shippedConfiguration() {
 // happens before main: point the variable at the wanted directory and start again once.
 void useConfigurationDirectory(const Options& options, char** argv) {
     const char* current = std::getenv("NUMBERING_CONFIG_DIR");
+    if (current != nullptr && *current == '\0')
+        current = nullptr; // the library ignores an empty value: so does the tool
     std::string wanted = options.configDir;
     if (wanted.empty())
         wanted = current != nullptr ? current : shippedConfiguration();
@@ -101,14 +106,21 @@ int main(int argc, char** argv) {
     }
     useConfigurationDirectory(options, argv);
     Logger::m_Traces = options.trace;
+    // Without dialing rules every country would be reported as unsupported: name the real cause.
+    if (!isFile(KesNumberingConfig::DIALING_RULES_FILE) &&
+        !isFile(KesNumberingConfig::DIALING_RULES_DEFAULT_FILE)) {
+        std::cerr << "numbering: no dialing rules in " << KesNumberingConfig::configDirectory() << "\n";
+        return 2;
+    }
 
     KesNumberingRules* rules = KesNumberingRules::getInstance();
     std::unique_ptr<KesDialRulesItem> installation;
     try {
         installation.reset(new KesDialRulesItem(options.country, options.extPrefix, options.localLength,
-                                                options.areaCodes, options.exceptLength, options.exceptBegin));
+                                                options.areaCodes, options.exceptLength,
+                                                options.exceptBegin));
     } catch (const KesUnsupportedCountryException& e) {
-        std::cerr << "numbering: " << e.what() << " (configuration: " << std::getenv("NUMBERING_CONFIG_DIR")
+        std::cerr << "numbering: " << e.what() << " (configuration: " << KesNumberingConfig::configDirectory()
                   << ")\n";
         return 2;
     } catch (const std::invalid_argument& e) {
