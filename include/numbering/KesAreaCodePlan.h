@@ -84,8 +84,6 @@ protected:
     /// number behind that area code; answers whether it did.
     bool completeWithOwnAreaCode(std::string_view head, std::string_view local, KesDialRulesItem* rules,
                                  std::string& result);
-    /// operation + "('" + number + "', '" + rules + "')": the opening trace of the conversions.
-    static std::string callTrace(const char* operation, const std::string& number, KesDialRulesItem* rules);
 
     /// The number as it stands, then behind the installation's outside-line prefix.
     std::string convertInTwoPasses(const TwoPassRules& plan, const std::string& number,

@@ -1,5 +1,6 @@
 #include "numbering/KesCNP_52.h"
 
+#include "PlanText.h"
 #include "numbering/KesDialRulesItem.h"
 #include "numbering/KesNumberingConfig.h"
 #include "numbering/Logger.h"
@@ -100,7 +101,7 @@ std::string KesCNP_52::dlr_Country_MakeCanonicalNumber(std::string number, KesDi
     if (rules == nullptr)
         return number;
     if (Logger::m_Traces)
-        logger->debug(callTrace("dlr_Country_MakeCanonicalNumber", number, rules));
+        logger->debug(plantext::entryTrace(number, rules));
     std::string result;
     if (!place(number, rules, result)) {
         // Only a number that cannot be placed as it stands is looked at behind the outside-line prefix.

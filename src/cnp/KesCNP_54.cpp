@@ -1,5 +1,6 @@
 #include "numbering/KesCNP_54.h"
 
+#include "PlanText.h"
 #include "numbering/KesCountryRuleItem.h"
 #include "numbering/KesDialRulesItem.h"
 #include "numbering/KesNumberingConfig.h"
@@ -126,7 +127,7 @@ std::string KesCNP_54::dlr_Country_MakeCanonicalNumber(std::string number, KesDi
     if (rules == nullptr)
         return number;
     if (Logger::m_Traces)
-        logger->debug(callTrace("DlrArgentinaMakeCanonicalNumber", number, rules));
+        logger->debug(plantext::callTrace("DlrArgentinaMakeCanonicalNumber", number, rules));
     StrippedNumber split;
     if (!strip(number, rules, split)) {
         if (Logger::m_Traces)

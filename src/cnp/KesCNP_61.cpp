@@ -1,5 +1,6 @@
 #include "numbering/KesCNP_61.h"
 
+#include "PlanText.h"
 #include "numbering/KesNumberingConfig.h"
 #include "numbering/Logger.h"
 
@@ -47,7 +48,7 @@ std::string KesCNP_61::dlr_Country_MakeCanonicalNumber(std::string number, KesDi
     if (rules == nullptr)
         return number;
     if (Logger::m_Traces)
-        logger->debug(callTrace("dlr_Country_MakeCanonicalNumber", number, rules));
+        logger->debug(plantext::entryTrace(number, rules));
     std::string result;
     std::string_view digits = number;
     if (digits.size() == NATIONAL_LENGTH && digits[0] == '0') {

@@ -1,5 +1,6 @@
 // The conversion of the plans that look at a number once, as it stands: a national number is
 // split at its area code, a number without national prefix may be completed with the own one.
+#include "PlanText.h"
 #include "numbering/KesAreaCodePlan.h"
 
 #include "numbering/Logger.h"
@@ -27,7 +28,7 @@ std::string KesAreaCodePlan::convertInOnePass(const OnePassRules& plan, const st
     if (rules == nullptr)
         return number;
     if (Logger::m_Traces)
-        planLogger->debug(callTrace("dlr_Country_MakeCanonicalNumber", number, rules));
+        planLogger->debug(plantext::entryTrace(number, rules));
     if (number.empty() || number.size() < plan.minimumLength)
         return number;
     std::string result;

@@ -1,8 +1,8 @@
 #ifndef NUMBERING_CNP_PLANTEXT_H
 #define NUMBERING_CNP_PLANTEXT_H
 
-// Text helpers shared by the plans that recognise numbers by their length and leading digits.
-// They work on views so that a conversion allocates only its result.
+// Text helpers shared by the country plans. They work on views so that a conversion allocates only
+// its result.
 
 #include "numbering/KesDialRulesItem.h"
 
@@ -25,10 +25,15 @@ inline std::string canonicalNumber(std::string_view countryNumber, std::string_v
     return result;
 }
 
-/// The text every plan traces on entry: "dlr_Country_MakeCanonicalNumber('<number>', '<rules>')".
+/// operation + "('" + number + "', '" + rules + "')": the opening trace of a plan's operations.
 /// Build it only when tracing is on.
+inline std::string callTrace(const char* operation, const std::string& number, KesDialRulesItem* rules) {
+    return std::string(operation) + "('" + number + "', '" + rules->ToString() + "')";
+}
+
+/// The text every plan traces on entry: "dlr_Country_MakeCanonicalNumber('<number>', '<rules>')".
 inline std::string entryTrace(const std::string& number, KesDialRulesItem* rules) {
-    return "dlr_Country_MakeCanonicalNumber('" + number + "', '" + rules->ToString() + "')";
+    return callTrace("dlr_Country_MakeCanonicalNumber", number, rules);
 }
 
 } // namespace plantext

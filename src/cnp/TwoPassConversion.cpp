@@ -1,5 +1,6 @@
 // The conversion of the plans that look at a number twice: first as it stands, then behind the
 // installation's outside-line prefix.
+#include "PlanText.h"
 #include "numbering/KesAreaCodePlan.h"
 
 #include "numbering/KesDialRulesItem.h"
@@ -46,7 +47,7 @@ std::string KesAreaCodePlan::convertInTwoPasses(const TwoPassRules& plan, const 
     if (rules == nullptr)
         return number;
     if (Logger::m_Traces)
-        planLogger->debug(callTrace("dlr_Country_MakeCanonicalNumber", number, rules));
+        planLogger->debug(plantext::entryTrace(number, rules));
     if (number.size() < SHORTEST)
         return number;
     std::string result;
