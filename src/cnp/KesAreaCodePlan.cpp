@@ -88,9 +88,4 @@ bool KesAreaCodePlan::completeWithOwnAreaCode(std::string_view head, std::string
     return true;
 }
 
-std::string KesAreaCodePlan::callTrace(const char* operation, const std::string& number,
-                                       KesDialRulesItem* rules) {
-    return std::string(operation) + "('" + number + "', '" + rules->ToString() + "')";
-}
-
 } // namespace numbering
