@@ -1,168 +1,102 @@
-// Cost of the facade's conversions, the path every call of the host takes, on a mix of national,
-// international and local numbers for three installations: Paris and Munich (whose countries have
-// plans) and Stockholm (generic rules only). The library builds its file names when it is loaded,
-// so main writes the configuration into a temporary directory and runs itself again with
-// NUMBERING_CONFIG_DIR set.
+// Cost of the facade's conversions, the path of every call of the host, on the committed input
+// set (bench/inputs.tsv: national, international, local and service numbers of a dozen
+// installations, country plans and generic rules mixed) with the shipped configuration (data/).
+// Every conversion reports its heap allocations ("allocs", per conversion); the "/threads:2" runs
+// show how throughput grows with a second thread once the caches are warm. ColdStart measures
+// the load of the whole shipped world: the store, the masks, and every country plan with its area
+// code file, through the first conversion in each plan country.
+#include "support/BenchHost.h"
+
 #include "numbering/KesClid.h"
 #include "numbering/KesDialRulesItem.h"
 #include "numbering/KesNumberingRules.h"
-#include "numbering/Logger.h"
 
 #include <benchmark/benchmark.h>
 
-#include "numbering/KesUnsupportedCountryException.h"
-
 #include <cstdio>
-#include <cstdlib>
-#include <cstring>
 #include <exception>
-#include <fstream>
-#include <memory>
 #include <string>
-#include <unistd.h>
 #include <vector>
 
-// The benchmark is the host: debug tracing off, error lines (there should be none) to stderr.
-bool Logger::m_Traces = false;
-
-void FlogWrite(const char* text, short) {
-    if (std::strncmp(text, "ERROR ", 6) == 0)
-        std::fprintf(stderr, "%s\n", text);
-}
-
 using namespace numbering;
+using benchhost::Conversion;
 
 namespace {
 
-const char* const CONFIG_DIR = "NUMBERING_CONFIG_DIR";
-const char* const OWN_TEMP_DIR = "NUMBERING_BENCH_TEMP_DIR";
-
-struct ConfigurationFile {
-    const char* name;
-    const char* content;
-};
-
-const ConfigurationFile CONFIGURATION[] = {
-    {"dialingrules.properties", "DE = 49:00:EF:0F::Germany:P\n"
-                                "ES = 34:00:EF:F:F:Spain:P\n"
-                                "FR = 33:00:EF:0F::France:P\n"
-                                "GB = 44:00:EF:0F::United Kingdom:P\n"
-                                "IT = 39:00:EF:F:F:Italy:P\n"
-                                "SE = 46:00:EF:0F::Sweden:P\n"
-                                "US = 1:011:EF:1F::United States:P\n"},
-    {"dlr_cnp_mask.properties", "Mask_33_1 = +C (a) x xx xx xx xx\n"
-                                "Mask_46_1 = +C (a) xxx xxx xx\n"
-                                "Mask_49_1 = +C (A) xxxx xxxx\n"},
-    {"specific_format_activation.properties", ""},
-    {"tz310cnp_49.properties", "Translate = 1\nAC_0000 = 30\nAC_0001 = 40\nAC_0002 = 69\nAC_0003 = 89\n"
-                               "AC_0004 = 221\nAC_0005 = 711\n"},
-    {"tz310cnp_44.properties", "Translate = 1\nAC_0000 = 20\nAC_0001 = 121\nAC_0002 = 161\n"},
-};
-
-bool writeConfiguration(const std::string& directory) {
-    for (const ConfigurationFile& file : CONFIGURATION) {
-        std::ofstream out(directory + "/" + file.name, std::ios::binary | std::ios::trunc);
-        out << file.content;
-        if (!out)
-            return false;
-    }
-    return true;
-}
-
-void removeConfiguration(const std::string& directory) {
-    for (const ConfigurationFile& file : CONFIGURATION)
-        std::remove((directory + "/" + file.name).c_str());
-    ::rmdir(directory.c_str());
-}
-
-/// An installation and what its users dial: national, international (by prefix and canonical),
-/// local and extension numbers, and the canonical numbers they convert to.
-struct Installation {
-    const char* name;
-    std::unique_ptr<KesDialRulesItem> rules;
-    std::vector<std::string> typed;
-    std::vector<std::string> canonical;
-};
-
-std::vector<Installation> makeInstallations() {
-    std::vector<Installation> installations;
-    installations.push_back({"Paris",
-                             std::make_unique<KesDialRulesItem>("FR", "0", 4, "1", 0, ""),
-                             {"01 23 45 67 89", "06 12 34 56 78", "00 49 89 123456", "+44 20 7946 0958",
-                              "+33 4 76 11 22 33", "23 45 67 89", "123"},
-                             {}});
-    installations.push_back({"Munich",
-                             std::make_unique<KesDialRulesItem>("DE", "0", 4, "89", 0, ""),
-                             {"030 1234567", "0711 98765", "0033 1 23 45 67 89", "+39 06 1234 5678",
-                              "1234567", "+49 89 123456", "123"},
-                             {}});
-    installations.push_back({"Stockholm",
-                             std::make_unique<KesDialRulesItem>("SE", "0", 4, "8", 0, ""),
-                             {"08-123 456 78", "031 123 456", "00 39 06 1234 5678", "+34 91 123 45 67",
-                              "+46 8 123 456 78", "12345678", "123"},
-                             {}});
-    // One pass outside the measurement fills the plan and strategy caches.
-    KesNumberingRules* facade = KesNumberingRules::getInstance();
-    for (Installation& installation : installations)
-        for (const std::string& number : installation.typed) {
-            std::string canonical = facade->makeCanonicalNumber(installation.rules.get(), number, "");
-            if (!canonical.empty() && canonical[0] == '+')
-                installation.canonical.push_back(canonical);
-            facade->makePhoneNumber(installation.rules.get(), number);
-        }
-    return installations;
-}
-
-const std::vector<Installation>& installations() {
-    static const std::vector<Installation> made = makeInstallations();
-    return made;
-}
-
-const Installation& installation(const benchmark::State& state) {
-    return installations().at(static_cast<std::size_t>(state.range(0)));
-}
-
-/// Runs `convert(rules, number)` over the installation's numbers in turn.
-template <class Convert>
-void overNumbers(benchmark::State& state, const std::vector<std::string> Installation::*numbers,
-                 Convert convert) {
-    const Installation& place = installation(state);
-    const std::vector<std::string>& inputs = place.*numbers;
-    std::size_t i = 0;
-    for (auto _ : state) {
-        convert(place.rules.get(), inputs[i]);
-        if (++i == inputs.size())
-            i = 0;
-    }
-    state.SetLabel(place.name);
-    state.SetItemsProcessed(state.iterations());
-}
+const char* const TYPED = "national,international,local,service";
 
 KesNumberingRules* facade() {
     return KesNumberingRules::getInstance();
 }
 
-void MakeCanonicalNumber(benchmark::State& state) {
-    overNumbers(state, &Installation::typed, [](KesDialRulesItem* rules, const std::string& number) {
-        benchmark::DoNotOptimize(facade()->makeCanonicalNumber(rules, number, ""));
-    });
+struct Workload {
+    benchhost::Installations installations;
+    std::vector<Conversion> typed;     // numbers as the users type them
+    std::vector<Conversion> canonical; // their canonical forms
+};
+
+Workload& workload() {
+    static Workload work = [] {
+        Workload made;
+        made.typed = made.installations.conversions(TYPED);
+        for (const Conversion& conversion : made.typed) {
+            std::string canonical = facade()->makeCanonicalNumber(conversion.rules, conversion.number, "");
+            if (!canonical.empty() && canonical[0] == '+')
+                made.canonical.push_back({conversion.rules, canonical, conversion.country});
+        }
+        return made;
+    }();
+    return work;
 }
 
-void MakeDialableNumber(benchmark::State& state) {
-    overNumbers(state, &Installation::canonical, [](KesDialRulesItem* rules, const std::string& number) {
-        benchmark::DoNotOptimize(facade()->makeDialableNumber(rules, number));
+/// One pass of every operation over every input, outside any measurement: fills the plan and
+/// strategy caches (which must be warm before threads convert).
+void warmUp() {
+    Workload& work = workload();
+    for (const Conversion& c : work.typed) {
+        facade()->makeCanonicalNumber(c.rules, c.number, "");
+        facade()->makeGSMCanonicalNumber(c.rules, c.number, false);
+        facade()->makePhoneNumber(c.rules, c.number);
+        if (KesClid* clid = facade()->makeClid(c.rules, c.number))
+            clid->release();
+    }
+    for (const Conversion& c : work.canonical) {
+        facade()->formatCanonicalNumber(c.number, "");
+        facade()->makeDialableNumber(c.rules, c.number);
+    }
+}
+
+/// Runs `convert(conversion)` over `conversions` in turn; each thread starts at its own place.
+template <class Convert>
+void overConversions(benchmark::State& state, const std::vector<Conversion>& conversions, Convert convert) {
+    std::size_t i = static_cast<std::size_t>(state.thread_index()) * conversions.size() /
+                    static_cast<std::size_t>(state.threads());
+    const std::uint64_t before = benchhost::allocations();
+    for (auto _ : state) {
+        convert(conversions[i]);
+        if (++i == conversions.size())
+            i = 0;
+    }
+    state.counters["allocs"] = benchmark::Counter(static_cast<double>(benchhost::allocations() - before),
+                                                  benchmark::Counter::kAvgIterations);
+    state.SetItemsProcessed(state.iterations());
+}
+
+void MakeCanonicalNumber(benchmark::State& state) {
+    overConversions(state, workload().typed, [](const Conversion& c) {
+        benchmark::DoNotOptimize(facade()->makeCanonicalNumber(c.rules, c.number, ""));
     });
 }
 
 void MakePhoneNumber(benchmark::State& state) {
-    overNumbers(state, &Installation::typed, [](KesDialRulesItem* rules, const std::string& number) {
-        benchmark::DoNotOptimize(facade()->makePhoneNumber(rules, number));
+    overConversions(state, workload().typed, [](const Conversion& c) {
+        benchmark::DoNotOptimize(facade()->makePhoneNumber(c.rules, c.number));
     });
 }
 
 void MakeClid(benchmark::State& state) {
-    overNumbers(state, &Installation::typed, [](KesDialRulesItem* rules, const std::string& number) {
-        KesClid* clid = facade()->makeClid(rules, number);
+    overConversions(state, workload().typed, [](const Conversion& c) {
+        KesClid* clid = facade()->makeClid(c.rules, c.number);
         benchmark::DoNotOptimize(clid);
         if (clid != nullptr)
             clid->release();
@@ -170,39 +104,70 @@ void MakeClid(benchmark::State& state) {
 }
 
 void MakeGSMCanonicalNumber(benchmark::State& state) {
-    overNumbers(state, &Installation::typed, [](KesDialRulesItem* rules, const std::string& number) {
-        benchmark::DoNotOptimize(facade()->makeGSMCanonicalNumber(rules, number, false));
+    overConversions(state, workload().typed, [](const Conversion& c) {
+        benchmark::DoNotOptimize(facade()->makeGSMCanonicalNumber(c.rules, c.number, false));
     });
 }
 
-BENCHMARK(MakeCanonicalNumber)->DenseRange(0, 2);
-BENCHMARK(MakeDialableNumber)->DenseRange(0, 2);
-BENCHMARK(MakePhoneNumber)->DenseRange(0, 2);
-BENCHMARK(MakeClid)->DenseRange(0, 2);
-BENCHMARK(MakeGSMCanonicalNumber)->DenseRange(0, 2);
+void FormatCanonicalNumber(benchmark::State& state) {
+    overConversions(state, workload().canonical, [](const Conversion& c) {
+        benchmark::DoNotOptimize(facade()->formatCanonicalNumber(c.number, ""));
+    });
+}
+
+void MakeDialableNumber(benchmark::State& state) {
+    overConversions(state, workload().canonical, [](const Conversion& c) {
+        benchmark::DoNotOptimize(facade()->makeDialableNumber(c.rules, c.number));
+    });
+}
+
+/// The library loaded from nothing: getInstance, then the first conversion in each country that has
+/// a numbering plan (each loads its plan, its area code file and its dialing strategy).
+void ColdStart(benchmark::State& state) {
+    std::vector<benchhost::Input> first;
+    for (const benchhost::Input& input : benchhost::inputs())
+        if (input.kind == "coldstart")
+            first.push_back(input);
+    std::size_t loadedBytes = 0;
+    std::uint64_t loadAllocations = 0;
+    for (auto _ : state) {
+        state.PauseTiming();
+        KesNumberingRules::resetInstance();
+        const std::size_t heapBefore = benchhost::heapInUse();
+        const std::uint64_t allocationsBefore = benchhost::allocations();
+        state.ResumeTiming();
+        KesNumberingRules* rules = KesNumberingRules::getInstance();
+        for (const benchhost::Input& input : first) {
+            KesDialRulesItem installation(input.country, input.outsideLinePrefix, input.localLength,
+                                          input.areaCode, 0, "");
+            benchmark::DoNotOptimize(rules->makeCanonicalNumber(&installation, input.number, ""));
+        }
+        state.PauseTiming();
+        loadedBytes = benchhost::heapInUse() - heapBefore;
+        loadAllocations = benchhost::allocations() - allocationsBefore;
+        state.ResumeTiming();
+    }
+    state.counters["heap_bytes"] = static_cast<double>(loadedBytes);
+    state.counters["allocs"] = static_cast<double>(loadAllocations);
+    state.counters["plans"] = static_cast<double>(first.size());
+    warmUp(); // the benchmarks that follow expect warm caches
+}
+
+// The first number of threads is the reference for the second.
+BENCHMARK(MakeCanonicalNumber)->Threads(1)->Threads(2)->UseRealTime();
+BENCHMARK(MakeGSMCanonicalNumber)->Threads(1)->Threads(2)->UseRealTime();
+BENCHMARK(MakePhoneNumber)->Threads(1)->Threads(2)->UseRealTime();
+BENCHMARK(MakeClid)->Threads(1)->Threads(2)->UseRealTime();
+BENCHMARK(FormatCanonicalNumber)->Threads(1)->Threads(2)->UseRealTime();
+BENCHMARK(MakeDialableNumber)->Threads(1)->Threads(2)->UseRealTime();
+BENCHMARK(ColdStart)->Unit(benchmark::kMillisecond)->Iterations(20);
 
 } // namespace
 
 int main(int argc, char** argv) {
-    if (std::getenv(CONFIG_DIR) == nullptr) {
-        char directory[] = "/tmp/numbering-bench-XXXXXX";
-        if (::mkdtemp(directory) == nullptr || !writeConfiguration(directory)) {
-            std::perror("cannot prepare the configuration");
-            return 1;
-        }
-        ::setenv(CONFIG_DIR, directory, 1);
-        ::setenv(OWN_TEMP_DIR, directory, 1);
-        ::execv("/proc/self/exe", argv);
-        std::perror("execv");
-        removeConfiguration(directory);
-        return 1;
-    }
-    // A configuration directory of the caller's own must know the three installations' countries.
+    benchhost::useShippedWorld(argv);
     try {
-        installations();
-    } catch (const KesUnsupportedCountryException& e) {
-        std::fprintf(stderr, "%s\n", e.what());
-        return 1;
+        warmUp();
     } catch (const std::exception& e) {
         std::fprintf(stderr, "%s\n", e.what());
         return 1;
@@ -210,7 +175,5 @@ int main(int argc, char** argv) {
     benchmark::Initialize(&argc, argv);
     benchmark::RunSpecifiedBenchmarks();
     benchmark::Shutdown();
-    if (const char* own = std::getenv(OWN_TEMP_DIR))
-        removeConfiguration(own);
     return 0;
 }

@@ -4,9 +4,12 @@
 #include "numbering/KesCharsTree.h"
 #include "numbering/ReferenceCount.h"
 
+#include <array>
 #include <cstddef>
+#include <cstdint>
 #include <string>
 #include <string_view>
+#include <vector>
 
 class Logger;
 
@@ -14,6 +17,11 @@ namespace numbering {
 
 /// The area codes of one country as a digit tree, answering which leading digits of a national
 /// number form an area code. Built once (usually from the country's plan file), then only read.
+///
+/// The tree answers exactly as a KesCharsTree holding the same codes would (its text included), but
+/// keeps its digits in two flat tables instead of one heap object with a hash map per node: a
+/// country's few thousand codes take a few ten kilobytes, load without an allocation per digit, and
+/// a look-up is one array step per digit.
 class KesAreaCodeTree {
 public:
     KesAreaCodeTree();
@@ -43,7 +51,24 @@ public:
     static Logger* logger;
 
 private:
-    KesCharsTree tree;
+    /// One digit of a stored path. The root is node 0, which no path returns to, so a child slot
+    /// holding 0 is empty.
+    struct Node {
+        std::uint32_t children; // its block of ten child slots in `childBlocks`, or NO_CHILDREN
+        bool areaCode;          // a stored code ends here
+    };
+    using ChildBlock = std::array<std::uint32_t, 10>;
+    static const std::uint32_t NO_CHILDREN = 0xffffffffu;
+
+    /// The node reached from `node` by the digit `c`, or 0.
+    std::uint32_t child(std::uint32_t node, char c) const;
+    /// The length of the longest leading part of `digits` that is a path from the root.
+    std::size_t pathLength(std::string_view digits) const;
+    void appendText(std::uint32_t node, char character, int level, std::string& text) const;
+    int storedCodesBelow(std::uint32_t node) const;
+
+    std::vector<Node> nodes;
+    std::vector<ChildBlock> childBlocks;
     ReferenceCount<KesAreaCodeTree> references;
 };
 

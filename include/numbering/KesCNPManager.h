@@ -7,12 +7,15 @@
 #include <Poco/HashMap.h>
 #include <Poco/Mutex.h>
 
+#include <memory>
 #include <string>
 #include <vector>
 
 class Logger;
 
 namespace numbering {
+
+template <class Value> class ShortKeyIndex;
 
 /// The process-wide cache of country plans, keyed by the upper-case country code ("DE").
 /// getCNP runs entirely under the manager's mutex, so each plan (and its file reading) is built
@@ -38,9 +41,16 @@ private:
     KesCNPManager(const KesCNPManager&) = delete;
     KesCNPManager& operator=(const KesCNPManager&) = delete;
 
+    /// Rebuilds `index` from `plans`, after every insertion.
+    void reindex();
+
     Poco::HashMap<std::string, Poco::AutoPtr<KesCNP>> plans;
     std::vector<std::string> notFoundCountries;
-    Poco::FastMutex mutex;
+    /// Every conversion takes it: it has a cache line of its own, so that threads waiting for it do
+    /// not slow down the reads of the thread that holds it.
+    alignas(64) Poco::FastMutex mutex;
+    /// The plans by key without hashing a string, so that the mutex is held for a few instructions.
+    alignas(64) std::unique_ptr<ShortKeyIndex<KesCNP*>> index;
 };
 
 } // namespace numbering

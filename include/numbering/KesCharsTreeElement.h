@@ -45,6 +45,9 @@ public:
     virtual void release();
 
     void setAreaCode(bool flag);
+    /// One line of the tree's text: indentation for `level`, then "Root : <n> stored codes" for the
+    /// root (character 0) or the character, with " (true)" when a code ends there.
+    static void appendTextLine(std::string& text, int level, char character, bool areaCode, int storedCodes);
     /// Flagged nodes below this one (not counting itself), over the whole subtree.
     int numberOfStoredCodes();
 

@@ -27,6 +27,14 @@ public:
     virtual void duplicate();
     virtual void release();
 
+    // The fields themselves, for the library's conversions on the records of the configuration
+    // store, which are never of a derived class: no copy, no virtual call.
+    const std::string& countryNumberText() const { return countryNumber; }
+    const std::string& internatPfxText() const { return internatPfx; }
+    const std::string& longDistRuleText() const { return longDistRule; }
+    const std::string& localRuleText() const { return localRule; }
+    const std::string& longDistPrefixText() const { return longDistPrefix; }
+
     /// Records alive, for leak diagnostics.
     static int _count;
 

@@ -25,7 +25,8 @@ public:
     virtual std::string makeInternationalDialableNumber(std::string& country, std::string& areaNatPfx,
                                                         std::string& number, KesCountryRuleItem* countryRule);
     virtual std::string makeLongDistDialableNumber(std::string& areaNatPfx, std::string& number,
-                                                   KesCountryRuleItem* countryRule, KesDialRulesItem* dialRules);
+                                                   KesCountryRuleItem* countryRule,
+                                                   KesDialRulesItem* dialRules);
     virtual std::string makeLocalDialableNumber(std::string& areaNatPfx, std::string& number,
                                                 KesCountryRuleItem* countryRule);
     virtual void duplicate();
@@ -41,7 +42,7 @@ protected:
     /// Puts `prefix` in front of `result` unless `result` already begins with it or with a leading
     /// part of it, which is completed rather than doubled ("0" and "01234" stay "01234").
     static void mergePrefix(std::string& result, const std::string& prefix);
-    /// A result string with room for the longest dialable number.
+    /// The empty result string of a strategy operation.
     static std::string reservedResult();
     /// The area field of an international number: empty when it is exactly the destination country's
     /// national prefix (a canonical number that carries it in place of an area code), else unchanged.

@@ -6,11 +6,14 @@
 #include <Poco/AutoPtr.h>
 #include <Poco/HashMap.h>
 
+#include <memory>
 #include <string>
 
 class Logger;
 
 namespace numbering {
+
+template <class Value> class ShortKeyIndex;
 
 /// The process-wide cache of dialing strategies, keyed by calling code ("33"). Takes no lock: the
 /// host fills it (one conversion per country) before concurrent use; afterwards it is only read.
@@ -34,7 +37,12 @@ private:
     KesDialableManager(const KesDialableManager&) = delete;
     KesDialableManager& operator=(const KesDialableManager&) = delete;
 
+    /// Rebuilds `index` from `strategies`, after every insertion.
+    void reindex();
+
     Poco::HashMap<std::string, Poco::AutoPtr<KesDialable>> strategies;
+    /// The strategies by calling code without hashing a string.
+    std::unique_ptr<ShortKeyIndex<KesDialable*>> index;
 };
 
 } // namespace numbering

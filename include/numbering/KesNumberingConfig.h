@@ -6,7 +6,10 @@
 #include <Poco/AutoPtr.h>
 #include <Poco/HashMap.h>
 
+#include <cstddef>
+#include <memory>
 #include <string>
+#include <string_view>
 #include <vector>
 
 class Logger;
@@ -37,6 +40,20 @@ public:
     /// The shortest primary calling code (1 to 4 characters) at the head of `number`, or "".
     virtual std::string extractCountryNumber(std::string number);
 
+    // The same look-ups for the conversions, answered from a flat index without copying the key
+    // or the answer: null (or 0) where the operations above answer "" or null.
+
+    /// As getCountryRule.
+    KesCountryRuleItem* findCountryRule(std::string_view code) const;
+    /// As getCountryCodeFromNumber.
+    const std::string* findCountryCode(std::string_view number) const;
+    /// getCountryRule(getCountryCodeFromNumber(number)).
+    KesCountryRuleItem* findCountryRuleOfNumber(std::string_view number) const;
+    /// The length of extractCountryNumber(number).
+    std::size_t countryNumberLength(std::string_view number) const;
+    /// As getDefaultPattern.
+    const std::string* findDefaultPattern(std::string_view countryNumber) const;
+
     bool loadDialingRules();
     void createListCountryDisplay();
     bool loadCountryMasks();
@@ -66,12 +83,18 @@ private:
     KesNumberingConfig(const KesNumberingConfig&) = delete;
     KesNumberingConfig& operator=(const KesNumberingConfig&) = delete;
 
+    /// Rebuilds the index from the maps; every load ends with it, whatever it loaded.
+    void reindex();
+
     Poco::HashMap<std::string, std::string> countryCodeByNumber; // primary rows only
     Poco::HashMap<std::string, std::string> countryCodeByName;
     Poco::HashMap<std::string, Poco::AutoPtr<KesCountryRuleItem>> countryRules;
     Poco::HashMap<std::string, std::string> countryMasks;
     std::vector<std::string> countryList;
     Poco::HashMap<int, bool> specificFormatActivation;
+
+    struct Index;
+    std::unique_ptr<Index> index;
 };
 
 } // namespace numbering

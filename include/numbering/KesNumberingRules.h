@@ -2,6 +2,7 @@
 #define NUMBERING_KESNUMBERINGRULES_H
 
 #include <string>
+#include <string_view>
 #include <vector>
 
 class Logger;
@@ -84,8 +85,11 @@ public:
     static std::string TELEPHONENUMBER_FORMAT_CHARACTER;
 
 private:
-    std::string validNumber(std::string strPhoneNumber);
-    std::string checkPhoneNumber(std::string strPhoneNumber);
+    /// The trimmed number; a number in international form is rewritten into `layout` as
+    /// "+<country> (<area>) <rest>" and the view shows `layout`.
+    std::string_view validNumber(const std::string& strPhoneNumber, std::string& layout);
+    /// The digits and service characters of the number, or "" when it holds another character.
+    std::string checkPhoneNumber(std::string_view strPhoneNumber);
 };
 
 } // namespace numbering

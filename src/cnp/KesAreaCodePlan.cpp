@@ -6,6 +6,7 @@
 
 #include <algorithm>
 #include <exception>
+#include <utility>
 
 namespace numbering {
 
@@ -20,17 +21,17 @@ KesAreaCodePlan::~KesAreaCodePlan() = default;
 
 void KesAreaCodePlan::loadAreaCodes(const PlanFile& file, Logger* planLogger) {
     try {
-        PropertyFile properties =
-            openInstallationOrDefault(*file.installationFile, *file.defaultFile, planLogger,
-                                      file.textWhenUnopenable, file.textWhenNotFound);
+        std::unique_ptr<PropertyTable> properties =
+            openTableOrDefault(*file.installationFile, *file.defaultFile, planLogger, file.textWhenUnopenable,
+                               file.textWhenNotFound);
         if (file.readsTranslate)
             translate = properties->getString("Translate") == "1";
         // The list ends at the first missing key (a gap included), by exception like a normal file.
-        forEachIndexedValue(*properties, "AC_", [this](const std::string& value) {
+        properties->forEachIndexedValue("AC_", [this](std::string_view value) {
             std::string digits = leadingDigits(value);
             if (static_cast<int>(digits.size()) > maxAreaCodeLength)
                 maxAreaCodeLength = static_cast<int>(digits.size());
-            areaCodeTree->insert(digits);
+            areaCodeTree->insert(std::move(digits));
             ++areaCodeCount;
         });
     } catch (const std::exception& e) {

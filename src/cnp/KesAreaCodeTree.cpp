@@ -31,12 +31,32 @@ std::string malformedDigitMessage(const std::string& digits, std::string::size_t
 
 } // namespace
 
-KesAreaCodeTree::KesAreaCodeTree() {
+KesAreaCodeTree::KesAreaCodeTree() : nodes(1, Node{NO_CHILDREN, false}) {
+    // The trace of a tree built on the character tree: its root node, the tree, then this one.
+    if (Logger::m_Traces)
+        KesCharsTreeElement::logger->debug("KesCharsTreeElement()");
+    if (Logger::m_Traces)
+        KesCharsTree::logger->debug("KesCharsTree()");
     if (Logger::m_Traces)
         logger->debug("KesAreaCodeTree()");
 }
 
 KesAreaCodeTree::~KesAreaCodeTree() = default;
+
+std::uint32_t KesAreaCodeTree::child(std::uint32_t node, char c) const {
+    const std::uint32_t block = nodes[node].children;
+    if (block == NO_CHILDREN || c < '0' || c > '9')
+        return 0;
+    return childBlocks[block][static_cast<std::size_t>(c - '0')];
+}
+
+std::size_t KesAreaCodeTree::pathLength(std::string_view digits) const {
+    std::uint32_t node = 0;
+    std::size_t length = 0;
+    while (length < digits.size() && (node = child(node, digits[length])) != 0)
+        ++length;
+    return length;
+}
 
 bool KesAreaCodeTree::insert(std::string strDigits) {
     if (Logger::m_Traces)
@@ -46,12 +66,31 @@ bool KesAreaCodeTree::insert(std::string strDigits) {
     for (std::string::size_type i = 0; i < strDigits.size(); ++i)
         if (strDigits[i] < '0' || strDigits[i] > '9')
             throw number_format_exception(malformedDigitMessage(strDigits, i));
-    if (tree.isPresent(strDigits) == strDigits) {
+    // Already a path (a stored code, or the beginning of a longer one): shorter codes come first.
+    std::size_t existing = pathLength(strDigits);
+    if (existing == strDigits.size()) {
         if (Logger::m_Traces)
             logger->debug("Insert failed for '" + strDigits + "'");
         return false;
     }
-    tree.insert(strDigits);
+    // The character tree makes one node per digit of the code, then merges them into the paths it has.
+    if (Logger::m_Traces)
+        for (std::size_t i = 0; i < strDigits.size(); ++i)
+            KesCharsTreeElement::logger->debug("KesCharsTreeElement()");
+    std::uint32_t node = 0;
+    for (std::size_t i = 0; i < existing; ++i)
+        node = child(node, strDigits[i]);
+    for (std::size_t i = existing; i < strDigits.size(); ++i) {
+        if (nodes[node].children == NO_CHILDREN) {
+            childBlocks.push_back(ChildBlock{});
+            nodes[node].children = static_cast<std::uint32_t>(childBlocks.size() - 1);
+        }
+        const std::uint32_t added = static_cast<std::uint32_t>(nodes.size());
+        nodes.push_back(Node{NO_CHILDREN, false});
+        childBlocks[nodes[node].children][static_cast<std::size_t>(strDigits[i] - '0')] = added;
+        node = added;
+    }
+    nodes[node].areaCode = true;
     if (Logger::m_Traces)
         logger->debug("Insert successful for '" + strDigits + "'");
     return true;
@@ -63,11 +102,38 @@ std::string KesAreaCodeTree::extractAreaCode(std::string number) {
 }
 
 std::size_t KesAreaCodeTree::areaCodeLength(std::string_view number) {
-    return tree.longestCodeLength(number);
+    std::size_t longest = 0;
+    std::uint32_t node = 0;
+    for (std::size_t i = 0; i < number.size(); ++i) {
+        node = child(node, number[i]);
+        if (node == 0)
+            break;
+        if (nodes[node].areaCode)
+            longest = i + 1;
+    }
+    return longest;
+}
+
+int KesAreaCodeTree::storedCodesBelow(std::uint32_t node) const {
+    int stored = 0;
+    for (char c = '0'; c <= '9'; ++c)
+        if (std::uint32_t below = child(node, c))
+            stored += (nodes[below].areaCode ? 1 : 0) + storedCodesBelow(below);
+    return stored;
+}
+
+void KesAreaCodeTree::appendText(std::uint32_t node, char character, int level, std::string& text) const {
+    KesCharsTreeElement::appendTextLine(text, level, character, nodes[node].areaCode,
+                                        node == 0 ? storedCodesBelow(0) : 0);
+    for (char c = '0'; c <= '9'; ++c)
+        if (std::uint32_t below = child(node, c))
+            appendText(below, c, level + 1, text);
 }
 
 std::string KesAreaCodeTree::ToString() {
-    return tree.ToString();
+    std::string text;
+    appendText(0, '\0', 0, text);
+    return text;
 }
 
 void KesAreaCodeTree::duplicate() {

@@ -113,15 +113,8 @@ std::string KesCharsTreeElement::ToString() {
 }
 
 std::string KesCharsTreeElement::ToString(int level) {
-    std::string text(static_cast<std::string::size_type>(std::max(level, 0)) * 2, ' ');
-    if (character == '\0') {
-        text += "Root : " + std::to_string(numberOfStoredCodes()) + " stored codes";
-    } else {
-        text += character;
-        if (areaCode)
-            text += " (true)";
-    }
-    text += '\n';
+    std::string text;
+    appendTextLine(text, level, character, areaCode, character == '\0' ? numberOfStoredCodes() : 0);
     // The hash map has no useful order: children are written sorted, so that the text is stable.
     std::vector<KesCharsTreeElement*> children;
     children.reserve(elements.size());
@@ -133,6 +126,19 @@ std::string KesCharsTreeElement::ToString(int level) {
     for (KesCharsTreeElement* child : children)
         text += child->ToString(level + 1);
     return text;
+}
+
+void KesCharsTreeElement::appendTextLine(std::string& text, int level, char character, bool areaCode,
+                                         int storedCodes) {
+    text.append(static_cast<std::string::size_type>(std::max(level, 0)) * 2, ' ');
+    if (character == '\0') {
+        text += "Root : " + std::to_string(storedCodes) + " stored codes";
+    } else {
+        text += character;
+        if (areaCode)
+            text += " (true)";
+    }
+    text += '\n';
 }
 
 char KesCharsTreeElement::getCharacter() {

@@ -1,6 +1,7 @@
 #include "numbering/KesNumberingConfig.h"
 
 #include "PropertyFiles.h"
+#include "ShortKeyIndex.h"
 #include "numbering/KesCNP_33.h"
 #include "numbering/KesCNP_57.h"
 #include "numbering/KesCNP_7.h"
@@ -31,6 +32,18 @@ std::string KesNumberingConfig::SPECIFIC_FORMAT_FILE = configFile("specific_form
 std::string KesNumberingConfig::SPECIFIC_FORMAT_DEFAULT_FILE =
     configFile("specific_format_activation_default.properties");
 
+/// The maps the conversions read, by short key: the records by country code, the country (code and
+/// record) of each primary calling code, and the masks. Longer keys are looked up in the maps.
+struct KesNumberingConfig::Index {
+    struct Country {
+        std::string code;
+        KesCountryRuleItem* rule; // null when the code names no record
+    };
+    ShortKeyIndex<KesCountryRuleItem*> rules;
+    ShortKeyIndex<Country> countries;
+    ShortKeyIndex<std::string> masks;
+};
+
 namespace {
 
 const int BUCKETS = 64;
@@ -48,7 +61,9 @@ std::string KesNumberingConfig::configDirectory() {
     return directory;
 }
 
-std::string KesNumberingConfig::configFile(const std::string& fileName) { return configDirectory() + fileName; }
+std::string KesNumberingConfig::configFile(const std::string& fileName) {
+    return configDirectory() + fileName;
+}
 
 KesNumberingConfig* KesNumberingConfig::getInstance() {
     if (instance == nullptr)
@@ -63,7 +78,7 @@ void KesNumberingConfig::resetInstance() {
 
 KesNumberingConfig::KesNumberingConfig()
     : countryCodeByNumber(BUCKETS), countryCodeByName(BUCKETS), countryRules(BUCKETS), countryMasks(BUCKETS),
-      specificFormatActivation(BUCKETS) {
+      specificFormatActivation(BUCKETS), index(new Index) {
     if (Logger::m_Traces)
         logger->debug("KesNumberingConfig()");
     loadDialingRules();
@@ -107,11 +122,31 @@ bool KesNumberingConfig::loadDialingRules() {
             countryCodeByName.insert(std::make_pair(field[5], code));
             countryRules.insert(std::make_pair(code, rule));
         }
+        reindex();
         return true;
     } catch (const std::exception& e) {
         logger->error(std::string("KesNumberingConfig::loadDialingRules Exception : ") + e.what());
+        reindex();
         return false;
     }
+}
+
+void KesNumberingConfig::reindex() {
+    std::vector<std::pair<std::string_view, KesCountryRuleItem*>> rules;
+    for (auto& entry : countryRules)
+        if (ShortKeyIndex<KesCountryRuleItem*>::indexable(entry.first))
+            rules.emplace_back(entry.first, entry.second.get());
+    index->rules.assign(rules);
+    std::vector<std::pair<std::string_view, Index::Country>> countries;
+    for (auto& entry : countryCodeByNumber)
+        if (ShortKeyIndex<Index::Country>::indexable(entry.first))
+            countries.emplace_back(entry.first, Index::Country{entry.second, findCountryRule(entry.second)});
+    index->countries.assign(countries);
+    std::vector<std::pair<std::string_view, std::string>> masks;
+    for (auto& entry : countryMasks)
+        if (ShortKeyIndex<std::string>::indexable(entry.first))
+            masks.emplace_back(entry.first, entry.second);
+    index->masks.assign(masks);
 }
 
 void KesNumberingConfig::createListCountryDisplay() {
@@ -149,6 +184,7 @@ bool KesNumberingConfig::loadCountryMasks() {
             countryMasks.insert(std::make_pair(countryNumber, mask));
             ++loaded;
         }
+        reindex();
         if (Logger::m_Traces) {
             // The count is added to the start of the text rather than printed: it skips that many
             // characters ("ntry masks loaded" for three masks).
@@ -158,6 +194,7 @@ bool KesNumberingConfig::loadCountryMasks() {
         return true;
     } catch (const std::exception& e) {
         logger->error(std::string("KesNumberingConfig::loadCountryMasks Exception : ") + e.what());
+        reindex();
         return false;
     }
 }
@@ -210,7 +247,8 @@ bool KesNumberingConfig::loadSpecificFormatActivation() {
         }
         return true;
     } catch (const std::exception& e) {
-        logger->error(std::string("KesNumberingConfig::loadSpecificFormatActivation Exception : ") + e.what());
+        logger->error(std::string("KesNumberingConfig::loadSpecificFormatActivation Exception : ") +
+                      e.what());
         return false;
     }
 }
@@ -224,13 +262,13 @@ bool KesNumberingConfig::isSpecificFormatActiveForCountry(std::string countryNum
 }
 
 std::string KesNumberingConfig::getDefaultPattern(std::string countryNumber) {
-    if (countryNumber.empty())
-        return std::string();
-    auto found = countryMasks.find(countryNumber);
-    return found == countryMasks.end() ? std::string() : found->second;
+    const std::string* mask = findDefaultPattern(countryNumber);
+    return mask == nullptr ? std::string() : *mask;
 }
 
-std::vector<std::string>& KesNumberingConfig::getCountryList() { return countryList; }
+std::vector<std::string>& KesNumberingConfig::getCountryList() {
+    return countryList;
+}
 
 std::string KesNumberingConfig::getCountryCodeFromName(std::string name) {
     if (name.empty())
@@ -240,39 +278,76 @@ std::string KesNumberingConfig::getCountryCodeFromName(std::string name) {
 }
 
 std::string KesNumberingConfig::getCountryCodeFromNumber(std::string number) {
-    if (number.empty())
-        return std::string();
-    auto found = countryCodeByNumber.find(number);
-    return found == countryCodeByNumber.end() ? std::string() : found->second;
+    const std::string* code = findCountryCode(number);
+    return code == nullptr ? std::string() : *code;
 }
 
 KesCountryRuleItem* KesNumberingConfig::getCountryRule(std::string code) {
-    if (code.size() != 2)
-        return nullptr;
-    auto found = countryRules.find(code);
-    return found == countryRules.end() ? nullptr : found->second.get();
+    return findCountryRule(code);
 }
 
 std::string KesNumberingConfig::getCountryName(std::string code) {
-    KesCountryRuleItem* rule = getCountryRule(code);
+    KesCountryRuleItem* rule = findCountryRule(code);
     return rule == nullptr ? std::string() : rule->getCountryName();
 }
 
 std::string KesNumberingConfig::getCountryNumber(std::string code) {
-    KesCountryRuleItem* rule = getCountryRule(code);
+    KesCountryRuleItem* rule = findCountryRule(code);
     return rule == nullptr ? std::string() : rule->getCountryNumber();
 }
 
-bool KesNumberingConfig::validCountryCode(std::string code) { return getCountryRule(code) != nullptr; }
+bool KesNumberingConfig::validCountryCode(std::string code) {
+    return findCountryRule(code) != nullptr;
+}
 
 std::string KesNumberingConfig::extractCountryNumber(std::string number) {
-    // Shortest first, and up to four characters although calling codes have at most three.
-    for (std::string::size_type n = 1; n <= 4 && n <= number.size(); ++n) {
-        auto found = countryCodeByNumber.find(number.substr(0, n));
-        if (found != countryCodeByNumber.end())
-            return found->first;
+    number.resize(countryNumberLength(number));
+    return number;
+}
+
+KesCountryRuleItem* KesNumberingConfig::findCountryRule(std::string_view code) const {
+    // Every look-up by code demands two characters, which the index always holds.
+    if (code.size() != 2)
+        return nullptr;
+    KesCountryRuleItem* const* rule = index->rules.find(code);
+    return rule == nullptr ? nullptr : *rule;
+}
+
+const std::string* KesNumberingConfig::findCountryCode(std::string_view number) const {
+    if (number.empty())
+        return nullptr;
+    if (ShortKeyIndex<Index::Country>::indexable(number)) {
+        const Index::Country* country = index->countries.find(number);
+        return country == nullptr ? nullptr : &country->code;
     }
-    return std::string();
+    auto found = countryCodeByNumber.find(std::string(number));
+    return found == countryCodeByNumber.end() ? nullptr : &found->second;
+}
+
+KesCountryRuleItem* KesNumberingConfig::findCountryRuleOfNumber(std::string_view number) const {
+    if (ShortKeyIndex<Index::Country>::indexable(number)) {
+        const Index::Country* country = index->countries.find(number);
+        return country == nullptr ? nullptr : country->rule;
+    }
+    const std::string* code = findCountryCode(number);
+    return code == nullptr ? nullptr : findCountryRule(*code);
+}
+
+std::size_t KesNumberingConfig::countryNumberLength(std::string_view number) const {
+    // Shortest first, and up to four characters although calling codes have at most three.
+    for (std::size_t n = 1; n <= 4 && n <= number.size(); ++n)
+        if (index->countries.find(number.substr(0, n)) != nullptr)
+            return n;
+    return 0;
+}
+
+const std::string* KesNumberingConfig::findDefaultPattern(std::string_view countryNumber) const {
+    if (countryNumber.empty())
+        return nullptr;
+    if (ShortKeyIndex<std::string>::indexable(countryNumber))
+        return index->masks.find(countryNumber);
+    auto found = countryMasks.find(std::string(countryNumber));
+    return found == countryMasks.end() ? nullptr : &found->second;
 }
 
 } // namespace numbering

@@ -29,8 +29,6 @@ struct DialableFields {
 /// code's digits only when the number has both parentheses, then every remaining digit.
 DialableFields parseCanonical(const std::string& canonical) {
     DialableFields fields;
-    fields.country.reserve(5);
-    fields.areaNatPfx.reserve(5);
     const std::string::size_type bound =
         std::min<std::string::size_type>(KesNumberingConfig::MAX_PHONE_NUMBER_LENGTH, canonical.size());
     std::string::size_type i = 1;
@@ -44,7 +42,7 @@ DialableFields parseCanonical(const std::string& canonical) {
         ++i;
     if (i < bound && canonical[i] == '(')
         ++i;
-    if (canonical.find('(') != std::string::npos && canonical.find(')') != std::string::npos) {
+    if (indexOf(canonical, '(') != std::string::npos && indexOf(canonical, ')') != std::string::npos) {
         while (i < bound && isDigit(canonical[i]))
             fields.areaNatPfx += canonical[i++];
         while (i < bound && !isDigit(canonical[i]))
@@ -66,7 +64,7 @@ std::string KesNumberingRules::makeDialableNumber(KesDialRulesItem* myKesDialRul
     if (Logger::m_Traces)
         logger->debug("makeDialableNumber('" + countryId + "', '" +
                       (areaCodes.empty() ? "" : areaCodes.front()) + "', '" + strCanPhoneNumber + "')");
-    KesCountryRuleItem* countryRule = config->getCountryRule(countryId);
+    KesCountryRuleItem* countryRule = config->findCountryRule(countryId);
     if (countryRule == nullptr) {
         if (Logger::m_Traces)
             logger->debug("KesNumberingRules:makePhoneNumber no rules defined for this country : " +
@@ -83,12 +81,13 @@ std::string KesNumberingRules::makeDialableNumber(KesDialRulesItem* myKesDialRul
         logger->debug("Country : '" + fields.country + "', Area/Nat Pfx : '" + fields.areaNatPfx +
                       "', Number : '" + fields.number + "'");
     // The installation's country chooses the strategy, never the destination's.
-    KesDialable* dialable = requireDialable(countryRule->getCountryNumber());
+    const std::string& countryNumber = countryRule->countryNumberText();
+    KesDialable* dialable = requireDialable(countryNumber);
     if (fields.end >= static_cast<std::string::size_type>(KesNumberingConfig::MAX_PHONE_NUMBER_LENGTH) ||
         fields.number.empty())
         return std::string();
 
-    if (countryRule->getCountryNumber() != fields.country) {
+    if (countryNumber != fields.country) {
         if (Logger::m_Traces)
             logger->debug("KesNumberingRules : makePhoneNumber International");
         return dialable->makeInternationalDialableNumber(fields.country, fields.areaNatPfx, fields.number,

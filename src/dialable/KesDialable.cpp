@@ -18,25 +18,28 @@ KesDialable::KesDialable() {
 
 KesDialable::~KesDialable() = default;
 
-void KesDialable::duplicate() { references.duplicate(); }
+void KesDialable::duplicate() {
+    references.duplicate();
+}
 
 void KesDialable::release() {
     if (references.release())
         delete this;
 }
 
-std::string KesDialable::extractOperatorPrefix(std::string) { return std::string(); }
+std::string KesDialable::extractOperatorPrefix(std::string) {
+    return std::string();
+}
 
 std::string KesDialable::reservedResult() {
-    std::string result;
-    result.reserve(KesNumberingConfig::MAX_PHONE_NUMBER_LENGTH);
-    return result;
+    // No capacity is reserved: dialable numbers of up to 15 digits live in the string itself, and
+    // a reservation would be a heap allocation on every call.
+    return std::string();
 }
 
 void KesDialable::dropDestinationNationalPrefix(const std::string& country, std::string& areaNatPfx) {
     // Only an exact match counts: an area code that merely begins with the prefix stays.
-    KesNumberingConfig* config = KesNumberingConfig::getInstance();
-    KesCountryRuleItem* destination = config->getCountryRule(config->getCountryCodeFromNumber(country));
+    KesCountryRuleItem* destination = KesNumberingConfig::getInstance()->findCountryRuleOfNumber(country);
     if (destination == nullptr)
         return;
     std::string destinationPrefix = destination->getLongDistPrefix();
@@ -51,10 +54,10 @@ void KesDialable::mergePrefix(std::string& result, const std::string& prefix) {
 }
 
 std::string KesDialable::makeInternationalDialableNumber(std::string& country, std::string& areaNatPfx,
-                                                         std::string& number, KesCountryRuleItem* countryRule) {
-    std::string result = reservedResult();
-    result = countryRule->getInternatPfx();
-    std::string rule = countryRule->getInternatRule();
+                                                         std::string& number,
+                                                         KesCountryRuleItem* countryRule) {
+    std::string result = countryRule->getInternatPfx();
+    const std::string rule = countryRule->getInternatRule();
     if (rule.find('E') != std::string::npos)
         result += country;
     if (rule.find('F') != std::string::npos) {
@@ -67,8 +70,7 @@ std::string KesDialable::makeInternationalDialableNumber(std::string& country, s
 
 std::string KesDialable::applyRule(const std::string& rule, const std::string& prefix,
                                    const std::string& areaNatPfx, const std::string& number) const {
-    std::string result = reservedResult();
-    result = number;
+    std::string result = number;
     if (rule.empty())
         return result;
     bool withArea = rule.find('F') != std::string::npos;

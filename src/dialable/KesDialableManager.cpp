@@ -1,5 +1,6 @@
 #include "numbering/KesDialableManager.h"
 
+#include "config/ShortKeyIndex.h"
 #include "numbering/KesDialableFactory.h"
 #include "numbering/Logger.h"
 
@@ -23,7 +24,7 @@ void KesDialableManager::resetInstance() {
     instance = nullptr;
 }
 
-KesDialableManager::KesDialableManager() {
+KesDialableManager::KesDialableManager() : index(new ShortKeyIndex<KesDialable*>) {
     if (Logger::m_Traces)
         logger->debug("KesDialableManager()");
 }
@@ -33,9 +34,14 @@ KesDialableManager::~KesDialableManager() = default;
 KesDialable* KesDialableManager::getDialable(std::string countryNumber) {
     if (Logger::m_Traces)
         logger->debug("getDialable('" + countryNumber + "')");
-    auto found = strategies.find(countryNumber);
-    if (found != strategies.end())
-        return found->second.get();
+    if (ShortKeyIndex<KesDialable*>::indexable(countryNumber)) {
+        if (KesDialable* const* strategy = index->find(countryNumber))
+            return *strategy;
+    } else {
+        auto found = strategies.find(countryNumber);
+        if (found != strategies.end())
+            return found->second.get();
+    }
     return loadDialableClass(countryNumber);
 }
 
@@ -46,7 +52,17 @@ KesDialable* KesDialableManager::loadDialableClass(std::string countryNumber) {
     if (countryNumber.empty())
         return nullptr;
     Poco::AutoPtr<KesDialable> strategy(KesDialableFactory::CreateInstance(countryNumber));
-    return strategies.insert(std::make_pair(countryNumber, strategy)).first->second.get();
+    KesDialable* cached = strategies.insert(std::make_pair(countryNumber, strategy)).first->second.get();
+    reindex();
+    return cached;
+}
+
+void KesDialableManager::reindex() {
+    std::vector<std::pair<std::string_view, KesDialable*>> entries;
+    for (auto& entry : strategies)
+        if (ShortKeyIndex<KesDialable*>::indexable(entry.first))
+            entries.emplace_back(entry.first, entry.second.get());
+    index->assign(entries);
 }
 
 } // namespace numbering

@@ -1,5 +1,6 @@
 #include "numbering/KesNumberingRules.h"
 
+#include "CanonicalParts.h"
 #include "ConversionGuard.h"
 #include "NumberText.h"
 #include "numbering/KesClid.h"
@@ -18,35 +19,38 @@ KesClid* KesNumberingRules::makeClid(KesDialRulesItem* myKesDialRulesItem, std::
     requireArguments(myKesDialRulesItem, strPhoneNumber);
     if (Logger::m_Traces)
         logger->debug("makeClid with : " + strPhoneNumber);
-    const std::string can = makeCanonicalNumber(myKesDialRulesItem, strPhoneNumber, "");
+    std::string can = makeCanonicalNumber(myKesDialRulesItem, std::move(strPhoneNumber), "");
     if (can.empty())
         return nullptr;
     // A local number that could not be made canonical, or a service code.
     if (can[0] != '+')
-        return new KesClid(can, &KesEnumOrigin::PRIVATE_1);
+        return new KesClid(std::move(can), &KesEnumOrigin::PRIVATE_1);
 
-    const std::string cn = extractCountryNumberFromCanonicalNumber(can);
-    const std::string area = extractAreaCodeOrNatPrefixFromCanonicalNumber(can);
-    std::string sub = extractExtensionFromCanonicalNumber(can);
+    const std::string_view cn = countryNumberOf(can);
+    const std::string_view area = areaCodeOrNatPrefixOf(can);
+    std::string sub;
+    appendExtensionOf(can, sub);
 
-    const std::string countryId = myKesDialRulesItem->getCountryId();
-    const std::string ownCn = config->getCountryNumber(countryId);
-    KesCountryRuleItem* ownRule = config->getCountryRule(countryId);
-    const std::string ldp = ownRule == nullptr ? std::string() : ownRule->getLongDistPrefix();
+    KesCountryRuleItem* ownRule = config->findCountryRule(myKesDialRulesItem->getCountryId());
+    static const std::string none;
+    const std::string& ownCn = ownRule == nullptr ? none : ownRule->countryNumberText();
+    const std::string& ldp = ownRule == nullptr ? none : ownRule->longDistPrefixText();
 
     if (cn != ownCn) {
         // The installation's own national prefix, not the caller country's, is left out.
-        std::string number = cn;
+        std::string number;
+        number.reserve(cn.size() + area.size() + sub.size());
+        number += cn;
         if (ldp.empty() || area != ldp)
             number += area;
         number += sub;
-        return new KesClid(number, &KesEnumOrigin::INTERNATIONAL);
+        return new KesClid(std::move(number), &KesEnumOrigin::INTERNATIONAL);
     }
     if (area == ldp)
-        return new KesClid(sub, &KesEnumOrigin::NATIONAL);
+        return new KesClid(std::move(sub), &KesEnumOrigin::NATIONAL);
     if (area == myKesDialRulesItem->getAreaCode())
-        return new KesClid(sub, &KesEnumOrigin::PUBLIC_1);
-    return new KesClid(area + sub, &KesEnumOrigin::NATIONAL);
+        return new KesClid(std::move(sub), &KesEnumOrigin::PUBLIC_1);
+    return new KesClid(std::string(area) + sub, &KesEnumOrigin::NATIONAL);
 }
 
 } // namespace numbering

@@ -1,6 +1,7 @@
 #include "numbering/KesNumberingRules.h"
 
 #include "ConversionGuard.h"
+#include "FacadeInternals.h"
 #include "NumberText.h"
 #include "numbering/KesCountryRuleItem.h"
 #include "numbering/KesNumberingConfig.h"
@@ -11,22 +12,30 @@ namespace numbering {
 std::string KesNumberingRules::generateDefaultCanonicalNumber(std::string strPhoneNumber,
                                                               std::string strCountryCode,
                                                               std::string strAreaCode) {
+    return defaultCanonicalNumber(std::move(strPhoneNumber), strCountryCode, strAreaCode);
+}
+
+std::string defaultCanonicalNumber(std::string strPhoneNumber, const std::string& strCountryCode,
+                                   std::string_view strAreaCode) {
+    Logger* logger = KesNumberingRules::logger;
     if (Logger::m_Traces)
         logger->debug("generateDefaultCanonicalNumber('" + strPhoneNumber + "', '" + strCountryCode + "', '" +
-                      strAreaCode + "')");
+                      std::string(strAreaCode) + "')");
     std::string result;
-    if (!strPhoneNumber.empty() && !strCountryCode.empty() && config->validCountryCode(strCountryCode)) {
-        KesCountryRuleItem* rule = config->getCountryRule(strCountryCode);
-        const std::string ldp = rule->getLongDistPrefix();
+    KesCountryRuleItem* rule = strPhoneNumber.empty() || strCountryCode.empty()
+                                   ? nullptr
+                                   : KesNumberingRules::config->findCountryRule(strCountryCode);
+    if (rule != nullptr) {
+        const std::string& ldp = rule->longDistPrefixText();
         std::string& work = strPhoneNumber;
         // Countries whose long-distance rule puts no area code ("F") never show one.
-        if (rule->getLongDistRule().find('F') == std::string::npos)
-            strAreaCode.clear();
+        if (rule->longDistRuleText().find('F') == std::string::npos)
+            strAreaCode = std::string_view();
         if (!ldp.empty()) {
             if (startsWith(work, ldp))
                 work.erase(0, ldp.size());
             if (startsWith(strAreaCode, ldp))
-                strAreaCode.erase(0, ldp.size());
+                strAreaCode.remove_prefix(ldp.size());
         }
         if (!strAreaCode.empty()) {
             if (startsWith(work, strAreaCode))
@@ -35,9 +44,10 @@ std::string KesNumberingRules::generateDefaultCanonicalNumber(std::string strPho
             // Without an area code the national prefix stands in the parentheses: "+33 (0) 612345678".
             strAreaCode = ldp;
         }
-        result.reserve(KesNumberingConfig::MAX_PHONE_NUMBER_LENGTH);
+        const std::string& countryNumber = rule->countryNumberText();
+        result.reserve(countryNumber.size() + strAreaCode.size() + work.size() + 5);
         result += '+';
-        result += rule->getCountryNumber();
+        result += countryNumber;
         if (!strAreaCode.empty()) {
             result += " (";
             result += strAreaCode;
@@ -56,15 +66,15 @@ namespace {
 
 /// The three parts of a canonical number that a mask places.
 struct CanonicalParts {
-    std::string countryNumber;         // from the second character up to the first blank
-    std::string area;                  // between the first "(" and the next ")"
+    std::string_view countryNumber;    // from the second character up to the first blank
+    std::string_view area;             // between the first "(" and the next ")"
     std::string::size_type subscriber; // just past the blank behind that ")"
 };
 
-CanonicalParts splitCanonical(const std::string& number, std::string::size_type open) {
+CanonicalParts splitCanonical(std::string_view number, std::string::size_type open) {
     CanonicalParts parts;
-    parts.countryNumber = between(number, 1, number.find(' '));
-    const std::string::size_type close = number.find(')', open);
+    parts.countryNumber = between(number, 1, indexOf(number, ' '));
+    const std::string::size_type close = indexOf(number, ')', open);
     parts.area = between(number, open + 1, close);
     parts.subscriber = close == std::string::npos ? number.size() : close + 2;
     return parts;
@@ -72,68 +82,75 @@ CanonicalParts splitCanonical(const std::string& number, std::string::size_type 
 
 /// Whether `area` is the national prefix of the country with calling code `countryNumber`, which a
 /// mask's "a" leaves out. An unknown country has none.
-bool isNationalPrefix(const std::string& area, const std::string& countryNumber, KesNumberingConfig* config) {
-    KesCountryRuleItem* rule = config->getCountryRule(config->getCountryCodeFromNumber(countryNumber));
-    return rule != nullptr && area == rule->getLongDistPrefix();
+bool isNationalPrefix(std::string_view area, std::string_view countryNumber) {
+    KesCountryRuleItem* rule = KesNumberingRules::config->findCountryRuleOfNumber(countryNumber);
+    return rule != nullptr && area == rule->longDistPrefixText();
 }
 
 } // namespace
 
 std::string KesNumberingRules::formatCanonicalNumber(std::string strCanPhoneNumber, std::string strPattern) {
+    return formatCanonical(strCanPhoneNumber, strPattern);
+}
+
+std::string formatCanonical(const std::string& strCanPhoneNumber, const std::string& strPattern) {
+    Logger* logger = KesNumberingRules::logger;
     if (Logger::m_Traces)
         logger->debug("formatCanonicalNumber('" + strCanPhoneNumber + "', '" + strPattern + "')");
-    const std::string::size_type open = strCanPhoneNumber.find('(');
-    if (open == std::string::npos || strCanPhoneNumber.find(')') == std::string::npos) {
+    const std::string::size_type open = indexOf(strCanPhoneNumber, '(');
+    if (open == std::string::npos || indexOf(strCanPhoneNumber, ')') == std::string::npos) {
         if (Logger::m_Traces)
             logger->debug("Can't apply pattern to number : '" + strCanPhoneNumber + "'");
         return strCanPhoneNumber;
     }
+    // The pattern in use: the caller's, else the country's mask (none: the empty pattern).
+    const std::string* pattern = &strPattern;
     return guardConversion(
         [&]() -> std::string {
             if (strPattern.empty()) {
-                std::string countryNumber = between(strCanPhoneNumber, 1, open);
-                Poco::trimInPlace(countryNumber);
                 // A country without a mask gets the empty one, which keeps only the subscriber
                 // number: the shipped configuration has a mask for every calling code.
-                strPattern = config->getDefaultPattern(countryNumber);
+                static const std::string noMask;
+                const std::string* mask = KesNumberingRules::config->findDefaultPattern(
+                    trimmed(between(strCanPhoneNumber, 1, open)));
+                pattern = mask == nullptr ? &noMask : mask;
             }
             const CanonicalParts parts = splitCanonical(strCanPhoneNumber, open);
             std::string::size_type pos = parts.subscriber;
-            std::string result;
-            result.reserve(300);
-            for (char c : strPattern) {
+            TextCollector result;
+            for (char c : *pattern) {
                 switch (c) {
                 case 'C':
-                    result += parts.countryNumber;
+                    result.append(parts.countryNumber);
                     break;
                 case 'A':
-                    result += parts.area;
+                    result.append(parts.area);
                     break;
                 case 'a':
-                    if (!parts.area.empty() && !isNationalPrefix(parts.area, parts.countryNumber, config))
-                        result += parts.area;
+                    if (!parts.area.empty() && !isNationalPrefix(parts.area, parts.countryNumber))
+                        result.append(parts.area);
                     break;
                 case 'x':
                     // A blank of the number is passed over without placing anything.
                     if (pos < strCanPhoneNumber.size()) {
                         if (strCanPhoneNumber[pos] != ' ')
-                            result += strCanPhoneNumber[pos];
+                            result.push(strCanPhoneNumber[pos]);
                         ++pos;
                     }
                     break;
                 default:
-                    result += c;
+                    result.push(c);
                 }
             }
             // Digits the mask did not place are never lost.
             if (pos < strCanPhoneNumber.size())
-                result.append(strCanPhoneNumber, pos, std::string::npos);
-            return result;
+                result.append(std::string_view(strCanPhoneNumber).substr(pos));
+            return result.str();
         },
         [&](const char* what) {
             logger->error(std::string("KesNumberingRules::formatCanonicalNumber exception: ") + what +
-                          " - strCanPhoneNumberFinal: '" + strCanPhoneNumber + "', strPattern: '" +
-                          strPattern + "'");
+                          " - strCanPhoneNumberFinal: '" + strCanPhoneNumber + "', strPattern: '" + *pattern +
+                          "'");
             return strCanPhoneNumber;
         });
 }

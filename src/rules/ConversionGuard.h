@@ -15,6 +15,7 @@
 #include <exception>
 #include <stdexcept>
 #include <string>
+#include <string_view>
 
 namespace numbering {
 
@@ -28,10 +29,10 @@ inline void requireArguments(KesDialRulesItem* myKesDialRulesItem, const std::st
 
 /// The rules of `countryCode`. A country missing from the dialing rules file (an installation built
 /// without validation, a key that is not two characters long) fails the conversion, not the process.
-inline KesCountryRuleItem* requireCountryRule(KesNumberingConfig* config, const std::string& countryCode) {
-    KesCountryRuleItem* rule = config->getCountryRule(countryCode);
+inline KesCountryRuleItem* requireCountryRule(KesNumberingConfig* config, std::string_view countryCode) {
+    KesCountryRuleItem* rule = config->findCountryRule(countryCode);
     if (rule == nullptr)
-        throw std::invalid_argument("no dialing rules for country '" + countryCode + "'");
+        throw std::invalid_argument("no dialing rules for country '" + std::string(countryCode) + "'");
     return rule;
 }
 

@@ -1,6 +1,8 @@
 #include "numbering/KesNumberingRules.h"
 
+#include "CanonicalParts.h"
 #include "ConversionGuard.h"
+#include "FacadeInternals.h"
 #include "NumberText.h"
 #include "numbering/KesCNP.h"
 #include "numbering/KesCNPManager.h"
@@ -11,7 +13,8 @@
 #include "numbering/KesNumberingConfig.h"
 #include "numbering/Logger.h"
 
-#include <memory>
+#include <algorithm>
+#include <optional>
 #include <stdexcept>
 #include <typeinfo>
 
@@ -72,20 +75,31 @@ std::string KesNumberingRules::getCountryCodeFromNumber(std::string countryNumbe
 
 namespace {
 
+/// The dialing rules that read a national number of the destination country `countryCode`: those
+/// of KesDialRulesItem(countryCode, "", 0, "", 0, ""), no outside-line prefix and no area code. They
+/// depend on the code alone, so each thread keeps the last ones it made rather than making them for
+/// every international number. A code the store gave is valid, as the constructor requires.
+KesDialRulesItem* destinationRulesOf(const std::string& countryCode) {
+    thread_local std::optional<KesDialRulesItem> last;
+    if (!last || last->getCountryId() != countryCode)
+        last.emplace(countryCode, "", 0, "", 0, "");
+    return &*last;
+}
+
 /// Where the canonical conversion stands once it has told what kind of number it holds.
 struct Conversion {
     std::string canNumber;      // the number being converted
     std::string strCountryCode; // the country it belongs to, "" when unknown
     bool kindKnown = false;     // recognised as international or national
     KesDialRulesItem* rules;    // the installation's rules, or those of the destination country
-    std::unique_ptr<KesDialRulesItem> destinationRules;
+    KesDialRulesItem* destinationRules = nullptr;
 
     explicit Conversion(KesDialRulesItem* installation) : rules(installation) {}
 
     /// From here on the number is a national number of `countryCode`, read with that country's rules.
     void takeDestination(const std::string& countryCode) {
-        destinationRules.reset(new KesDialRulesItem(countryCode, "", 0, "", 0, ""));
-        rules = destinationRules.get();
+        destinationRules = destinationRulesOf(countryCode);
+        rules = destinationRules;
         strCountryCode = countryCode;
         kindKnown = true;
     }
@@ -94,24 +108,25 @@ struct Conversion {
 /// The digits and service characters of a number not in international form; the scan ends at a
 /// "|". Sets `serviceCode` when a service character is met; any character that is neither a digit
 /// nor a presentation character rejects the number.
-std::string cleanNationalNumber(const std::string& strValid, bool& serviceCode) {
-    std::string digits;
-    const std::string::size_type end = strValid.find('|');
-    const std::string::size_type length = end == std::string::npos ? strValid.size() : end;
-    for (std::string::size_type i = 0; i < length; ++i) {
+std::string cleanNationalNumber(std::string_view strValid, bool& serviceCode) {
+    TextCollector digits;
+    const std::string_view::size_type end = indexOf(strValid, '|');
+    const std::string_view::size_type length = end == std::string_view::npos ? strValid.size() : end;
+    for (std::string_view::size_type i = 0; i < length; ++i) {
         const char c = strValid[i];
         if (isDigit(c)) {
-            digits += c;
+            digits.push(c);
         } else if (isServiceCharacter(c)) {
-            digits += c;
+            digits.push(c);
             serviceCode = true;
         } else if (!isFormatCharacter(c)) {
             if (Logger::m_Traces)
-                KesNumberingRules::logger->debug("MakeCanonical : wrong character in number : " + strValid);
+                KesNumberingRules::logger->debug("MakeCanonical : wrong character in number : " +
+                                                 std::string(strValid));
             throw std::invalid_argument("'strPhoneNumber' parameter is not a phone number");
         }
     }
-    return digits;
+    return digits.str();
 }
 
 /// A number dialled with the international prefix: finds the destination country behind it and any
@@ -121,34 +136,36 @@ void readInternationalPrefix(Conversion& work, const std::string& strPhoneNumber
                              const std::string& internatPfx, KesCountryRuleItem* countryRule) {
     KesNumberingConfig* config = KesNumberingRules::config;
     Logger* logger = KesNumberingRules::logger;
-    KesDialable* dialable = requireDialable(countryRule->getCountryNumber());
+    KesDialable* dialable = requireDialable(countryRule->countryNumberText());
     const std::string opPrefix = dialable->extractOperatorPrefix(digits.substr(internatPfx.size()));
     const std::string::size_type skip = internatPfx.size() + opPrefix.size();
-    const std::string countryNumber = config->extractCountryNumber(digits.substr(skip));
-    const std::string destCode = config->getCountryCodeFromNumber(countryNumber);
-    if (destCode.empty()) {
+    const std::string afterPrefixes = digits.substr(skip);
+    const std::string_view countryNumber(afterPrefixes.data(), config->countryNumberLength(afterPrefixes));
+    const std::string* destCode = config->findCountryCode(countryNumber);
+    if (destCode == nullptr) {
         if (Logger::m_Traces)
             logger->debug("International number detected but no country code was found '" + strPhoneNumber +
                           "'");
         return;
     }
     if (Logger::m_Traces)
-        logger->debug("International number detected : '" + digits + "' with CountryCode '" + destCode + "'");
-    work.canNumber = requireCountryRule(config, destCode)->getLongDistPrefix();
-    if (destCode == work.strCountryCode)
+        logger->debug("International number detected : '" + digits + "' with CountryCode '" + *destCode +
+                      "'");
+    work.canNumber = requireCountryRule(config, *destCode)->longDistPrefixText();
+    if (*destCode == work.strCountryCode)
         work.canNumber += opPrefix;
-    work.canNumber.append(digits, skip + countryNumber.size(), std::string::npos);
-    work.takeDestination(destCode);
+    work.canNumber.append(afterPrefixes, countryNumber.size(), std::string::npos);
+    work.takeDestination(*destCode);
 }
 
 /// A number dialled with the national prefix, or in a country that writes local and national
 /// numbers alike, is national; anything else may be local.
 bool isNationalByPrefix(const std::string& strPhoneNumber, KesCountryRuleItem* countryRule) {
     Logger* logger = KesNumberingRules::logger;
-    const std::string ldp = countryRule->getLongDistPrefix();
+    const std::string& ldp = countryRule->longDistPrefixText();
     if (ldp.empty()) {
-        const std::string localRule = countryRule->getLocalRule();
-        const std::string longDistRule = countryRule->getLongDistRule();
+        const std::string& localRule = countryRule->localRuleText();
+        const std::string& longDistRule = countryRule->longDistRuleText();
         if ((longDistRule.empty() && localRule == "G") || longDistRule == localRule) {
             if (Logger::m_Traces)
                 logger->debug("There is no difference between local and national phone number format'" +
@@ -167,35 +184,57 @@ bool isNationalByPrefix(const std::string& strPhoneNumber, KesCountryRuleItem* c
 
 /// A number in international form: its calling code names the country, and the rest is written as
 /// that country dials it nationally, so that the country's plan can take it from there.
-void readInternationalForm(Conversion& work, KesNumberingRules& facade, const std::string& strValid) {
+void readInternationalForm(Conversion& work, std::string_view strValid) {
     KesNumberingConfig* config = KesNumberingRules::config;
-    std::string countryNumber = facade.extractCountryNumberFromCanonicalNumber(strValid);
+    std::string_view countryNumber = countryNumberOf(strValid);
+    const std::string* countryCode;
     if (countryNumber.empty()) {
-        countryNumber = config->extractCountryNumber(strValid.substr(1));
-        work.strCountryCode = config->getCountryCodeFromNumber(countryNumber);
+        countryNumber = strValid.substr(1, config->countryNumberLength(strValid.substr(1)));
+        countryCode = config->findCountryCode(countryNumber);
     } else {
-        work.strCountryCode = config->getCountryCodeFromNumber(countryNumber);
+        countryCode = config->findCountryCode(countryNumber);
         // "+33123456789": the run of digits is more than the calling code.
-        if (work.strCountryCode.empty()) {
-            countryNumber = config->extractCountryNumber(countryNumber);
-            work.strCountryCode = config->getCountryCodeFromNumber(countryNumber);
+        if (countryCode == nullptr) {
+            countryNumber = countryNumber.substr(0, config->countryNumberLength(countryNumber));
+            countryCode = config->findCountryCode(countryNumber);
         }
     }
-    if (work.strCountryCode.empty()) {
+    if (countryCode == nullptr) {
         if (Logger::m_Traces)
-            KesNumberingRules::logger->debug("No country code found for country number '" + countryNumber +
-                                             "'");
+            KesNumberingRules::logger->debug("No country code found for country number '" +
+                                             std::string(countryNumber) + "'");
         return;
     }
-    std::string national;
-    for (std::string::size_type i = countryNumber.size() + 1; i < strValid.size(); ++i)
+    TextCollector digits;
+    for (std::string_view::size_type i = countryNumber.size() + 1; i < strValid.size(); ++i)
         if (isDigit(strValid[i]))
-            national += strValid[i];
-    work.takeDestination(work.strCountryCode);
+            digits.push(strValid[i]);
+    std::string national = digits.str();
+    work.takeDestination(*countryCode);
     KesCountryRuleItem* countryRule = requireCountryRule(config, work.strCountryCode);
     std::string noArea;
-    work.canNumber =
-        requireDialable(countryNumber)->makeLongDistDialableNumber(noArea, national, countryRule, work.rules);
+    work.canNumber = requireDialable(std::string(countryNumber))
+                         ->makeLongDistDialableNumber(noArea, national, countryRule, work.rules);
+}
+
+/// The digits and service characters of `number` into `result`, or nothing when it holds a
+/// character that is neither those nor a presentation character.
+void keepPhoneCharacters(std::string_view number, std::string& result) {
+    for (char c : number) {
+        if (isDigit(c) || isServiceCharacter(c)) {
+            result += c;
+        } else if (!isFormatCharacter(c)) {
+            result.clear();
+            return;
+        }
+    }
+}
+
+/// Whether the outside-line prefix goes in front of `number` (as isPrefixNeeded).
+bool prefixNeeded(KesDialRulesItem* rules, const std::string& number) {
+    if (static_cast<long>(number.size()) < rules->getLocalNbLength())
+        return false;
+    return !rules->isExceptionNumber(number);
 }
 
 } // namespace
@@ -222,9 +261,10 @@ std::string KesNumberingRules::makeCanonicalNumber(KesDialRulesItem* myKesDialRu
             if (startsWith(strPhoneNumber, ext))
                 strPhoneNumber.erase(0, ext.size());
         }
-        const std::string strValid = validNumber(strPhoneNumber);
-        const std::string strAreaCode = extractAreaCodeOrNatPrefixFromCanonicalNumber(strValid);
-        const bool internationalForm = strValid.at(0) == '+'; // nothing left: std::out_of_range
+        std::string layout;
+        const std::string_view strValid = validNumber(strPhoneNumber, layout);
+        const std::string_view strAreaCode = areaCodeOrNatPrefixOf(strValid);
+        const bool internationalForm = firstCharacter(strValid) == '+';
 
         Conversion work(myKesDialRulesItem);
         if (!internationalForm) {
@@ -234,9 +274,9 @@ std::string KesNumberingRules::makeCanonicalNumber(KesDialRulesItem* myKesDialRu
                 return digits; // a service code is never made canonical
             work.strCountryCode = myKesDialRulesItem->getCountryId();
             KesCountryRuleItem* countryRule = requireCountryRule(config, work.strCountryCode);
-            const std::string internatPfx = countryRule->getInternatPfx();
+            const std::string& internatPfx = countryRule->internatPfxText();
             // The prefix tests look at the number as typed, not at its digits.
-            if (isPrefixNeeded(myKesDialRulesItem, strPhoneNumber)) {
+            if (prefixNeeded(myKesDialRulesItem, strPhoneNumber)) {
                 if (startsWith(strPhoneNumber, internatPfx))
                     readInternationalPrefix(work, strPhoneNumber, digits, internatPfx, countryRule);
                 else
@@ -246,7 +286,7 @@ std::string KesNumberingRules::makeCanonicalNumber(KesDialRulesItem* myKesDialRu
             if (!work.destinationRules)
                 work.canNumber = std::move(digits);
         } else {
-            readInternationalForm(work, *this, strValid);
+            readInternationalForm(work, strValid);
         }
 
         // The country's plan, or the generic rules, write the number in canonical form.
@@ -272,24 +312,25 @@ std::string KesNumberingRules::makeCanonicalNumber(KesDialRulesItem* myKesDialRu
                     if (!contains(canNumber, "***")) {
                         if (Logger::m_Traces)
                             logger->debug("Source number to be altered : '" + canNumber + "'");
-                        canNumber = plan->dlr_Country_MakeCanonicalNumber(canNumber, rules);
+                        canNumber = plan->dlr_Country_MakeCanonicalNumber(std::move(canNumber), rules);
                     }
                 }
             } else {
                 if (Logger::m_Traces)
                     logger->debug("No special format defined for country " + work.strCountryCode);
                 if (internationalForm)
-                    canNumber = generateDefaultCanonicalNumber(canNumber, work.strCountryCode, strAreaCode);
+                    canNumber =
+                        defaultCanonicalNumber(std::move(canNumber), work.strCountryCode, strAreaCode);
                 else if (work.kindKnown)
-                    canNumber = generateDefaultCanonicalNumber(canNumber, work.strCountryCode, "");
+                    canNumber = defaultCanonicalNumber(std::move(canNumber), work.strCountryCode, "");
                 else if (Logger::m_Traces)
                     logger->debug("Can't translate to a canonical phone number : we don't known if '" +
                                   canNumber + "' is a local or national phone number");
             }
         }
-        if (canNumber.at(0) == '+') // nothing left: std::out_of_range
-            return formatCanonicalNumber(canNumber, strPattern);
-        return canNumber;
+        if (firstCharacter(canNumber) == '+')
+            return formatCanonical(canNumber, strPattern);
+        return std::move(canNumber);
     };
     return guardConversion(convert, [&](const char* what) {
         logConversionFailure(logger, "makeCanonicalNumber", what, strPhoneNumber,
@@ -298,16 +339,14 @@ std::string KesNumberingRules::makeCanonicalNumber(KesDialRulesItem* myKesDialRu
     });
 }
 
-std::string KesNumberingRules::validNumber(std::string strPhoneNumber) {
-    Poco::trimInPlace(strPhoneNumber);
-    const std::string& number = strPhoneNumber;
+std::string_view KesNumberingRules::validNumber(const std::string& strPhoneNumber, std::string& layout) {
+    const std::string_view number = trimmed(strPhoneNumber);
     if (number.size() < 2 || number[0] != '+')
-        return strPhoneNumber;
-    const std::string::size_type length = number.size();
-    std::string result;
-    result.reserve(KesNumberingConfig::MAX_PHONE_NUMBER_LENGTH);
+        return number;
+    const std::string_view::size_type length = number.size();
+    std::string& result = layout;
     result += '+';
-    std::string::size_type i = 1;
+    std::string_view::size_type i = 1;
     while (i < length && !isDigit(number[i]))
         ++i;
     while (i < length && isDigit(number[i]))
@@ -333,22 +372,19 @@ std::string KesNumberingRules::validNumber(std::string strPhoneNumber) {
                 result += number[i];
     }
     if (Logger::m_Traces)
-        logger->debug("validNumber before : " + strPhoneNumber + ", after : " + result);
+        logger->debug("validNumber before : " + std::string(number) + ", after : " + result);
     return result;
 }
 
-std::string KesNumberingRules::checkPhoneNumber(std::string strPhoneNumber) {
+std::string KesNumberingRules::checkPhoneNumber(std::string_view strPhoneNumber) {
     std::string result;
-    for (char c : strPhoneNumber) {
-        if (isDigit(c) || isServiceCharacter(c)) {
-            result += c;
-        } else if (!isFormatCharacter(c)) {
-            result.clear();
-            break;
-        }
-    }
+    // The usual case, digits only, is the number itself.
+    if (std::all_of(strPhoneNumber.begin(), strPhoneNumber.end(), isDigit))
+        result.assign(strPhoneNumber);
+    else
+        keepPhoneCharacters(strPhoneNumber, result);
     if (Logger::m_Traces)
-        logger->debug("checkPhoneNumber('" + strPhoneNumber + "') returns '" + result + "'");
+        logger->debug("checkPhoneNumber('" + std::string(strPhoneNumber) + "') returns '" + result + "'");
     return result;
 }
 

@@ -9,7 +9,9 @@
 #include <Poco/Ascii.h>
 #include <Poco/String.h>
 
+#include <cstdint>
 #include <string>
+#include <string_view>
 
 namespace numbering {
 
@@ -17,28 +19,109 @@ inline bool isDigit(char c) {
     return c >= '0' && c <= '9';
 }
 
+/// Whether `c` is one of the characters of `set`: a plain loop over a set of a few characters, run
+/// for every character of a number, costs less than a call of std::string::find.
+inline bool isOneOf(char c, const std::string& set) {
+    for (char member : set)
+        if (member == c)
+            return true;
+    return false;
+}
+
 /// A presentation character (" ()-."), dropped by every conversion.
 inline bool isFormatCharacter(char c) {
-    return KesNumberingRules::TELEPHONENUMBER_FORMAT_CHARACTER.find(c) != std::string::npos;
+    return isOneOf(c, KesNumberingRules::TELEPHONENUMBER_FORMAT_CHARACTER);
 }
 
 /// A service character ("*#ABCD"): kept, and the number is a service code.
 inline bool isServiceCharacter(char c) {
-    return KesNumberingRules::TELEPHONENUMBER_SPECIAL_CHARACTER.find(c) != std::string::npos;
+    return isOneOf(c, KesNumberingRules::TELEPHONENUMBER_SPECIAL_CHARACTER);
 }
 
 /// True when `text` begins with `prefix`; every text begins with an empty prefix.
-inline bool startsWith(const std::string& text, const std::string& prefix) {
+inline bool startsWith(std::string_view text, std::string_view prefix) {
     return text.compare(0, prefix.size(), prefix) == 0;
 }
 
-inline bool startsWith(const std::string& text, char c) {
+inline bool startsWith(std::string_view text, char c) {
     return !text.empty() && text[0] == c;
 }
 
-inline bool contains(const std::string& text, const char* part) {
-    return text.find(part) != std::string::npos;
+/// The position of the first `c` in `text` from `from` on, or npos. Numbers are a few characters
+/// long: a plain loop costs less than the call of std::string::find.
+inline std::string_view::size_type indexOf(std::string_view text, char c,
+                                           std::string_view::size_type from = 0) {
+    for (std::string_view::size_type i = from; i < text.size(); ++i)
+        if (text[i] == c)
+            return i;
+    return std::string_view::npos;
 }
+
+inline bool contains(std::string_view text, std::string_view part) {
+    return text.find(part) != std::string_view::npos;
+}
+
+/// One of the facade's character sets, read once for a whole number: then membership is one table
+/// look-up per character.
+class CharacterSet {
+public:
+    explicit CharacterSet(const std::string& characters) {
+        for (char c : characters)
+            member[static_cast<unsigned char>(c) / 64] |= std::uint64_t(1)
+                                                          << (static_cast<unsigned char>(c) % 64);
+    }
+    bool contains(char c) const {
+        return (member[static_cast<unsigned char>(c) / 64] >> (static_cast<unsigned char>(c) % 64)) & 1;
+    }
+
+private:
+    std::uint64_t member[4] = {};
+};
+
+/// The first character of `text`. An empty text raises the std::out_of_range of std::string::at,
+/// which the conversions report as their failure.
+inline char firstCharacter(std::string_view text) {
+    if (text.empty())
+        return std::string().at(0);
+    return text[0];
+}
+
+/// `text` without leading and trailing white space, as Poco::trim cuts it.
+inline std::string_view trimmed(std::string_view text) {
+    std::string_view::size_type begin = 0;
+    std::string_view::size_type end = text.size();
+    while (begin < end && Poco::Ascii::isSpace(text[begin]))
+        ++begin;
+    while (end > begin && Poco::Ascii::isSpace(text[end - 1]))
+        --end;
+    return text.substr(begin, end - begin);
+}
+
+/// Collects the characters of a result that is usually short, on the stack while they fit, and
+/// makes the string at once: growing a std::string one character at a time costs more than the
+/// characters of a number themselves.
+class TextCollector {
+public:
+    void push(char c) {
+        if (length < sizeof buffer) {
+            buffer[length++] = c;
+            return;
+        }
+        if (spill.empty())
+            spill.assign(buffer, length);
+        spill += c;
+    }
+    void append(std::string_view text) {
+        for (char c : text)
+            push(c);
+    }
+    std::string str() const { return spill.empty() ? std::string(buffer, length) : spill; }
+
+private:
+    char buffer[48];
+    std::size_t length = 0;
+    std::string spill; // everything, once the buffer is full
+};
 
 /// Trims the number and closes the gap behind a leading "+": "  + 33 1 " becomes "+33 1".
 inline void trimTypedNumber(std::string& number) {
@@ -53,10 +136,10 @@ inline void trimTypedNumber(std::string& number) {
 
 /// The characters of `text` from `begin` up to, not including, `end`; "" when `begin` lies past
 /// the text, the rest of the text when `end` does.
-inline std::string between(const std::string& text, std::string::size_type begin,
-                           std::string::size_type end) {
+inline std::string_view between(std::string_view text, std::string_view::size_type begin,
+                                std::string_view::size_type end) {
     if (begin >= text.size() || end <= begin)
-        return std::string();
+        return std::string_view();
     return text.substr(begin, end - begin);
 }
 
