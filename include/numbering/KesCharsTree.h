@@ -3,9 +3,7 @@
 
 #include "numbering/KesCharsTreeElement.h"
 
-#include <cstddef>
 #include <string>
-#include <string_view>
 
 class Logger;
 
@@ -29,10 +27,6 @@ public:
     /// True when `s` is exactly a stored code.
     virtual bool isAreaCode(std::string s);
     virtual std::string ToString();
-
-    /// The length of the longest stored code that begins `s` (0 when none), found in one walk
-    /// down the tree without building any string.
-    std::size_t longestCodeLength(std::string_view s);
 
     static Logger* logger;
 

@@ -48,17 +48,4 @@ std::string KesCharsTree::ToString() {
     return root.ToString();
 }
 
-std::size_t KesCharsTree::longestCodeLength(std::string_view s) {
-    std::size_t longest = 0;
-    KesCharsTreeElement* node = &root;
-    for (std::size_t i = 0; i < s.size(); ++i) {
-        node = node->get(s[i]);
-        if (node == nullptr)
-            break;
-        if (node->isAreaCode())
-            longest = i + 1;
-    }
-    return longest;
-}
-
 } // namespace numbering
