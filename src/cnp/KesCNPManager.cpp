@@ -118,11 +118,7 @@ KesCNP* KesCNPManager::loadCNPClass(std::string country) {
 }
 
 void KesCNPManager::reindex() {
-    std::vector<std::pair<std::string_view, KesCNP*>> entries;
-    for (auto& entry : plans)
-        if (ShortKeyIndex<KesCNP*>::indexable(entry.first))
-            entries.emplace_back(entry.first, entry.second.get());
-    index->assign(entries);
+    index->assignFrom(plans, [](auto& entry) { return entry.second.get(); });
 }
 
 bool KesCNPManager::isCountryNotFound(std::string country) {

@@ -103,6 +103,7 @@ KesNumberingConfig::~KesNumberingConfig() {
 bool KesNumberingConfig::loadDialingRules() {
     if (Logger::m_Traces)
         logger->debug("loadDialingRules()");
+    bool complete = true;
     try {
         PropertyFile file = openInstallationOrDefault(DIALING_RULES_FILE, DIALING_RULES_DEFAULT_FILE, logger,
                                                       NO_DIALING_RULES_FILE, NO_DIALING_RULES_FILE);
@@ -122,31 +123,20 @@ bool KesNumberingConfig::loadDialingRules() {
             countryCodeByName.insert(std::make_pair(field[5], code));
             countryRules.insert(std::make_pair(code, rule));
         }
-        reindex();
-        return true;
     } catch (const std::exception& e) {
         logger->error(std::string("KesNumberingConfig::loadDialingRules Exception : ") + e.what());
-        reindex();
-        return false;
+        complete = false; // what was loaded before the failure stays
     }
+    reindex();
+    return complete;
 }
 
 void KesNumberingConfig::reindex() {
-    std::vector<std::pair<std::string_view, KesCountryRuleItem*>> rules;
-    for (auto& entry : countryRules)
-        if (ShortKeyIndex<KesCountryRuleItem*>::indexable(entry.first))
-            rules.emplace_back(entry.first, entry.second.get());
-    index->rules.assign(rules);
-    std::vector<std::pair<std::string_view, Index::Country>> countries;
-    for (auto& entry : countryCodeByNumber)
-        if (ShortKeyIndex<Index::Country>::indexable(entry.first))
-            countries.emplace_back(entry.first, Index::Country{entry.second, findCountryRule(entry.second)});
-    index->countries.assign(countries);
-    std::vector<std::pair<std::string_view, std::string>> masks;
-    for (auto& entry : countryMasks)
-        if (ShortKeyIndex<std::string>::indexable(entry.first))
-            masks.emplace_back(entry.first, entry.second);
-    index->masks.assign(masks);
+    index->rules.assignFrom(countryRules, [](auto& entry) { return entry.second.get(); });
+    index->countries.assignFrom(countryCodeByNumber, [this](auto& entry) {
+        return Index::Country{entry.second, findCountryRule(entry.second)};
+    });
+    index->masks.assignFrom(countryMasks, [](auto& entry) { return entry.second; });
 }
 
 void KesNumberingConfig::createListCountryDisplay() {
@@ -160,6 +150,7 @@ void KesNumberingConfig::createListCountryDisplay() {
 bool KesNumberingConfig::loadCountryMasks() {
     if (Logger::m_Traces)
         logger->debug("loadCountryMasks()");
+    bool complete = true;
     try {
         // The info text names the dialing rules although the masks are meant: hosts grep for it.
         PropertyFile file = openInstallationOrDefault(COUNTRY_MASKS_FILE, COUNTRY_MASKS_DEFAULT_FILE, logger,
@@ -184,19 +175,18 @@ bool KesNumberingConfig::loadCountryMasks() {
             countryMasks.insert(std::make_pair(countryNumber, mask));
             ++loaded;
         }
-        reindex();
         if (Logger::m_Traces) {
             // The count is added to the start of the text rather than printed: it skips that many
-            // characters ("ntry masks loaded" for three masks).
+            // characters ("untry masks loaded" for three masks).
             static const std::string loadedText = " country masks loaded";
             logger->debug(loaded < loadedText.size() ? loadedText.substr(loaded) : std::string());
         }
-        return true;
     } catch (const std::exception& e) {
         logger->error(std::string("KesNumberingConfig::loadCountryMasks Exception : ") + e.what());
-        reindex();
-        return false;
+        complete = false; // what was loaded before the failure stays
     }
+    reindex();
+    return complete;
 }
 
 bool KesNumberingConfig::loadSpecificFormatActivation() {

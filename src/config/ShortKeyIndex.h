@@ -35,6 +35,16 @@ public:
         }
     }
 
+    /// Replaces the contents with the indexable keys of `map` (a hash map of the store or of a
+    /// cache), each with `valueOf(entry)`.
+    template <class Map, class ValueOf> void assignFrom(Map& map, ValueOf valueOf) {
+        std::vector<std::pair<std::string_view, Value>> entries;
+        for (auto& entry : map)
+            if (indexable(entry.first))
+                entries.emplace_back(entry.first, valueOf(entry));
+        assign(entries);
+    }
+
     /// The value of `key` (which must be indexable), or null.
     const Value* find(std::string_view key) const {
         if (slots.empty())

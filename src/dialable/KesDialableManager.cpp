@@ -58,11 +58,7 @@ KesDialable* KesDialableManager::loadDialableClass(std::string countryNumber) {
 }
 
 void KesDialableManager::reindex() {
-    std::vector<std::pair<std::string_view, KesDialable*>> entries;
-    for (auto& entry : strategies)
-        if (ShortKeyIndex<KesDialable*>::indexable(entry.first))
-            entries.emplace_back(entry.first, entry.second.get());
-    index->assign(entries);
+    index->assignFrom(strategies, [](auto& entry) { return entry.second.get(); });
 }
 
 } // namespace numbering
