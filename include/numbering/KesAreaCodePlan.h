@@ -22,8 +22,8 @@ class KesAreaCodePlan : public KesCNP {
 public:
     /// What tells one plan's file reading from another's.
     struct PlanFile {
-        const std::string* installationFile;
-        const std::string* defaultFile;
+        const char* installationFile; // names in the configuration directory
+        const char* defaultFile;
         const char* textWhenUnopenable; // info text when Poco cannot open the installation file
         const char* textWhenNotFound;   // info text when the installation file does not exist
         const char* planName;           // "KesCNP_49": constructor trace and tag of the reading traces

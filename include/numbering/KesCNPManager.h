@@ -4,7 +4,6 @@
 #include "numbering/KesCNP.h"
 
 #include <Poco/AutoPtr.h>
-#include <Poco/HashMap.h>
 #include <Poco/Mutex.h>
 
 #include <memory>
@@ -15,24 +14,32 @@ class Logger;
 
 namespace numbering {
 
-template <class Value> class ShortKeyIndex;
+template <class Value> class TextKeyMap;
 
-/// The process-wide cache of country plans, keyed by the upper-case country code ("DE").
-/// getCNP runs entirely under the manager's mutex, so each plan (and its file reading) is built
-/// once. A country without a plan is remembered and never retried until resetInstance().
+/// The cache of country plans, keyed by the upper-case country code ("DE"), one for each loaded
+/// configuration. A cached plan, or a country known to have none, is found without a lock; the
+/// first look-up of a country builds its plan (and reads its file) once, under the manager's mutex.
+/// A country without a plan is remembered and never retried until the configuration is reloaded.
 class KesCNPManager {
 public:
+    /// The cache of the configuration in use (see KesNumberingConfig::getInstance()); valid until
+    /// the first reload after the call has completed.
     static KesCNPManager* getInstance();
+    /// Empties the current configuration's cache (only when no conversion runs).
     static void resetInstance();
 
     virtual ~KesCNPManager();
 
-    /// The cached plan of `country`, or null. Borrowed: the manager keeps the reference.
+    /// The plan of `country`, or null. Borrowed: the manager keeps the reference, and the plan
+    /// stays valid until the first reload after the call has completed.
     virtual KesCNP* getCNP(std::string country);
 
+    /// Builds, caches and returns the plan of `country` (called by getCNP under the mutex).
     KesCNP* loadCNPClass(std::string country);
     bool isCountryNotFound(std::string country);
 
+    /// The current configuration's cache, if one was made, for inspection only: it changes with
+    /// every reload, so reach the cache through getInstance().
     static KesCNPManager* instance;
     static Logger* logger;
 
@@ -41,16 +48,15 @@ private:
     KesCNPManager(const KesCNPManager&) = delete;
     KesCNPManager& operator=(const KesCNPManager&) = delete;
 
-    /// Rebuilds `index` from `plans`, after every insertion.
-    void reindex();
+    /// Remembers `country` as one without a plan.
+    void notFound(const std::string& country);
+    bool isCountryNotFoundLocked(const std::string& country) const;
 
-    Poco::HashMap<std::string, Poco::AutoPtr<KesCNP>> plans;
+    /// Plans by country, and a null plan for each country remembered as having none.
+    std::unique_ptr<TextKeyMap<Poco::AutoPtr<KesCNP>>> plans;
     std::vector<std::string> notFoundCountries;
-    /// Every conversion takes it: it has a cache line of its own, so that threads waiting for it do
-    /// not slow down the reads of the thread that holds it.
-    alignas(64) Poco::FastMutex mutex;
-    /// The plans by key without hashing a string, so that the mutex is held for a few instructions.
-    alignas(64) std::unique_ptr<ShortKeyIndex<KesCNP*>> index;
+    /// Serialises the building of plans and the not-found list.
+    Poco::FastMutex mutex;
 };
 
 } // namespace numbering

@@ -7,8 +7,6 @@ class Logger;
 
 namespace numbering {
 
-class KesNumberingConfig;
-
 /// The numbering plan of calling code 33: closed numbering of ten digits with the national prefix.
 /// The canonical form keeps the national prefix digit in parentheses: 0123456789 is +33 (0) 123456789.
 /// Reads no file; the national prefix is the long-distance prefix of the dialing rules.
@@ -20,8 +18,6 @@ public:
     std::string dlr_Country_MakeCanonicalNumber(std::string number, KesDialRulesItem* rules) override;
 
     static Logger* logger;
-    /// The configuration store; cleared when the store is destroyed (then fetched again on use).
-    static KesNumberingConfig* config;
 };
 
 } // namespace numbering

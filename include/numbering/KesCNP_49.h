@@ -22,7 +22,8 @@ public:
     static void main(std::string* args);
 
     static Logger* logger;
-    /// "tz310cnp_49.properties" and "tz310cnp_49_default.properties" in the configuration directory.
+    /// "tz310cnp_49.properties" and "tz310cnp_49_default.properties" in the directory of the library's start;
+    /// the plan reads these names in the directory of the configuration in use.
     static std::string AREA_CODES_FILE;
     static std::string AREA_CODES_DEFAULT_FILE;
 };

@@ -26,7 +26,8 @@ public:
     virtual bool isTwoDigitsAreaCode(std::string number);
 
     static Logger* logger;
-    /// "tz310cnp_52.properties" and "tz310cnp_52_default.properties" in the configuration directory.
+    /// "tz310cnp_52.properties" and "tz310cnp_52_default.properties" in the directory of the library's start;
+    /// the plan reads these names in the directory of the configuration in use.
     static std::string AREA_CODES_FILE;
     static std::string AREA_CODES_DEFAULT_FILE;
 

@@ -9,8 +9,6 @@ class Logger;
 
 namespace numbering {
 
-class KesNumberingConfig;
-
 /// The numbering plan of calling code 54. Argentine numbers carry two mobile markers: "15" between
 /// the area code and the subscriber number when dialled nationally, "9" between the country code
 /// and the area code in international form ("+54 9 (11) 43215678"). StripNbr splits a number into
@@ -33,13 +31,11 @@ public:
     /// split (longer than 15 characters, a "9" not followed by a known area code, no `rules`).
     StrippedNumber* StripNbr(std::string number, KesDialRulesItem* rules);
 
-    /// The store as it was when the last plan was built. The split itself asks the current store,
-    /// which may have been reset and reloaded since.
-    static KesNumberingConfig* config;
     static std::string PREFIX_MOBILE_NATIONAL;
     static std::string PREFIX_MOBILE_INTERNATIONAL;
     static Logger* logger;
-    /// "tz310cnp_54.properties" and "tz310cnp_54_default.properties" in the configuration directory.
+    /// "tz310cnp_54.properties" and "tz310cnp_54_default.properties" in the directory of the library's start;
+    /// the plan reads these names in the directory of the configuration in use.
     static std::string AREA_CODES_FILE;
     static std::string AREA_CODES_DEFAULT_FILE;
 

@@ -9,8 +9,6 @@ class Logger;
 
 namespace numbering {
 
-class KesNumberingConfig;
-
 /// The numbering plan of calling code 57. Reads no file: seven-digit local numbers take the
 /// installation's area code; national numbers of ten or more characters begin with the national
 /// prefix 0 and a carrier selection, and the area code (or, after "03", the three-digit mobile
@@ -23,8 +21,6 @@ public:
     std::string dlr_Country_MakeCanonicalNumber(std::string number, KesDialRulesItem* rules) override;
 
     static Logger* logger;
-    /// The configuration store; cleared when the store is destroyed.
-    static KesNumberingConfig* config;
     /// The Colombian plan files. The plan does not open them: the operator prefixes they hold are
     /// read by the Colombian dialing strategy.
     static std::string CNP_FILE;

@@ -7,8 +7,6 @@ class Logger;
 
 namespace numbering {
 
-class KesNumberingConfig;
-
 /// The numbering plan of calling code 7: closed numbering of eleven digits with the national prefix.
 /// The canonical form drops the prefix and puts the three-digit area code in parentheses:
 /// 84951234567 is +7 (495) 1234567.
@@ -21,8 +19,6 @@ public:
     std::string dlr_Country_MakeCanonicalNumber(std::string number, KesDialRulesItem* rules) override;
 
     static Logger* logger;
-    /// The configuration store; cleared when the store is destroyed (then fetched again on use).
-    static KesNumberingConfig* config;
 };
 
 } // namespace numbering

@@ -4,7 +4,7 @@
 #include "numbering/KesDialable.h"
 
 #include <Poco/AutoPtr.h>
-#include <Poco/HashMap.h>
+#include <Poco/Mutex.h>
 
 #include <memory>
 #include <string>
@@ -13,22 +13,30 @@ class Logger;
 
 namespace numbering {
 
-template <class Value> class ShortKeyIndex;
+template <class Value> class TextKeyMap;
 
-/// The process-wide cache of dialing strategies, keyed by calling code ("33"). Takes no lock: the
-/// host fills it (one conversion per country) before concurrent use; afterwards it is only read.
+/// The cache of dialing strategies, keyed by calling code ("33"), one for each loaded
+/// configuration. A cached strategy is found without a lock; the first look-up of a calling code
+/// builds its strategy once, under the manager's mutex (the Colombian one reads its operator file).
 class KesDialableManager {
 public:
+    /// The cache of the configuration in use (see KesNumberingConfig::getInstance()); valid until
+    /// the first reload after the call has completed.
     static KesDialableManager* getInstance();
+    /// Empties the current configuration's cache (only when no conversion runs).
     static void resetInstance();
 
     virtual ~KesDialableManager();
 
-    /// The strategy of `countryNumber`, made on first use; null for an empty code. Borrowed.
+    /// The strategy of `countryNumber`, made on first use; null for an empty code. Borrowed, and
+    /// valid until the first reload after the call has completed.
     virtual KesDialable* getDialable(std::string countryNumber);
 
+    /// Builds, caches and returns the strategy of `countryNumber` (called by getDialable under the mutex).
     KesDialable* loadDialableClass(std::string countryNumber);
 
+    /// The current configuration's cache, if one was made, for inspection only: it changes with
+    /// every reload, so reach the cache through getInstance().
     static KesDialableManager* instance;
     static Logger* logger;
 
@@ -37,12 +45,9 @@ private:
     KesDialableManager(const KesDialableManager&) = delete;
     KesDialableManager& operator=(const KesDialableManager&) = delete;
 
-    /// Rebuilds `index` from `strategies`, after every insertion.
-    void reindex();
-
-    Poco::HashMap<std::string, Poco::AutoPtr<KesDialable>> strategies;
-    /// The strategies by calling code without hashing a string.
-    std::unique_ptr<ShortKeyIndex<KesDialable*>> index;
+    std::unique_ptr<TextKeyMap<Poco::AutoPtr<KesDialable>>> strategies;
+    /// Serialises the building of strategies.
+    Poco::FastMutex mutex;
 };
 
 } // namespace numbering

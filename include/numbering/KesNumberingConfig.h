@@ -16,13 +16,23 @@ class Logger;
 
 namespace numbering {
 
+class Configuration;
+template <class Value> class TextKeyMap;
+
 /// The process-wide store of per-country telephony facts: the dialing rules (country code,
 /// calling code, prefixes, rules, name), the display masks and the specific-format switches.
-/// Loaded once by the first getInstance(); resetInstance() is the only way to reload.
-/// Not synchronised: the host creates it before concurrent use and resets it only when idle.
+/// Loaded by the first getInstance() and immutable afterwards, so any thread reads it without a lock.
+/// KesNumberingRules::reload() replaces it with a new store read from the files while conversions
+/// go on: a conversion keeps the store it started with to its end.
 class KesNumberingConfig {
 public:
+    /// The store of the configuration in use: the one the calling thread's conversion started
+    /// with, else the current one (made on first use). Like every pointer and reference it hands
+    /// out (getCountryRule, getCountryList), it stays valid until the first reload after the call
+    /// has completed.
     static KesNumberingConfig* getInstance();
+    /// Destroys the current store with the plan and strategy caches built on it; the next
+    /// getInstance() reads every file again. Only when no conversion runs (see KesNumberingRules::reload).
     static void resetInstance();
 
     virtual ~KesNumberingConfig();
@@ -59,18 +69,23 @@ public:
     bool loadCountryMasks();
     bool loadSpecificFormatActivation();
 
-    /// The directory every configuration file name is built from: "/current/tele_mnt/lib_numbering/",
-    /// or the value of NUMBERING_CONFIG_DIR when that variable is set (read when called).
+    /// The directory the configuration in use was read from (with a trailing "/"): the one given to
+    /// the last KesNumberingRules::reload(directory), else NUMBERING_CONFIG_DIR as it was when the
+    /// library was loaded, else "/current/tele_mnt/lib_numbering/".
     static std::string configDirectory();
-    /// `fileName` in the configuration directory.
+    /// `fileName` in configDirectory().
     static std::string configFile(const std::string& fileName);
 
+    /// The current store (null when none is loaded), for inspection only: it changes with every
+    /// reload, so read the store through getInstance().
     static KesNumberingConfig* instance;
     static Logger* logger;
 
     static int MAX_PHONE_NUMBER_LENGTH;
     static int MAX_COUNTRY_NUMBER_LENGTH;
 
+    /// The file names in the directory of the library's start; a store reads the same names in
+    /// its own directory.
     static std::string DIALING_RULES_FILE;
     static std::string DIALING_RULES_DEFAULT_FILE;
     static std::string COUNTRY_MASKS_FILE;
@@ -79,22 +94,24 @@ public:
     static std::string SPECIFIC_FORMAT_DEFAULT_FILE;
 
 private:
-    KesNumberingConfig();
+    friend class Configuration;
+    explicit KesNumberingConfig(const std::string& configurationDirectory);
     KesNumberingConfig(const KesNumberingConfig&) = delete;
     KesNumberingConfig& operator=(const KesNumberingConfig&) = delete;
 
-    /// Rebuilds the index from the maps; every load ends with it, whatever it loaded.
-    void reindex();
+    /// The country of a primary calling code.
+    struct Country {
+        std::string code;
+        KesCountryRuleItem* rule; // null when the code names no record
+    };
 
-    Poco::HashMap<std::string, std::string> countryCodeByNumber; // primary rows only
-    Poco::HashMap<std::string, std::string> countryCodeByName;
-    Poco::HashMap<std::string, Poco::AutoPtr<KesCountryRuleItem>> countryRules;
-    Poco::HashMap<std::string, std::string> countryMasks;
+    const std::string directory; // where this store's files are read
+    std::unique_ptr<TextKeyMap<Country>> countryCodeByNumber; // primary rows only
+    std::unique_ptr<TextKeyMap<std::string>> countryCodeByName;
+    std::unique_ptr<TextKeyMap<Poco::AutoPtr<KesCountryRuleItem>>> countryRules;
+    std::unique_ptr<TextKeyMap<std::string>> countryMasks;
     std::vector<std::string> countryList;
     Poco::HashMap<int, bool> specificFormatActivation;
-
-    struct Index;
-    std::unique_ptr<Index> index;
 };
 
 } // namespace numbering

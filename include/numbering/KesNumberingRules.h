@@ -18,15 +18,30 @@ class KesNumberingConfig;
 /// country masks, splits them, builds caller line identities and GSM forms, and turns canonical
 /// numbers back into the digits the installation dials (with the outside-line prefix where needed).
 ///
-/// A process-wide singleton without instance data. The host creates it before converting from
-/// several threads and resets it only when idle (nothing here is locked). The conversions are
+/// A process-wide singleton without instance data. Any thread may convert at any time, the first
+/// conversion for a country included; reload() re-reads the configuration while conversions go on.
+/// Each conversion runs on one configuration from its start to its end. The conversions are
 /// virtual and call each other through the virtual table, so a host subclass can override them.
 class KesNumberingRules {
 public:
+    /// The facade, made on first call (once, whichever threads call at the same time), with the
+    /// configuration store when none is loaded. The facade itself lives until resetInstance().
     static KesNumberingRules* getInstance();
     /// Tears down the plan cache, the strategy cache, the configuration store and the facade, in
-    /// this order: the next getInstance() re-reads every file.
+    /// this order: the next getInstance() re-reads every file. Only when no conversion runs.
     static void resetInstance();
+    /// Re-reads every file, as resetInstance() followed by getInstance() would, while other threads
+    /// convert: a conversion that started before finishes on the old configuration, one that starts
+    /// after sees the new one, and none mixes the two. Returns once the old configuration (store,
+    /// plans, strategies, trees) is freed, which waits for the conversions that still use it; the
+    /// look-up pointers obtained before (getCountryRule, getCNP, getDialable, getCountryList, the
+    /// store and caches themselves) are invalid from then on. Reloads may run on several threads;
+    /// calling it from inside a conversion (a log sink, say) throws std::logic_error.
+    static void reload();
+    /// reload() from `configDirectory`, which replaces the configuration directory from then on
+    /// (an empty one goes back to the directory of the library's start). Called before the first
+    /// getInstance(), it chooses where the first load reads.
+    static void reload(const std::string& configDirectory);
 
     KesNumberingRules();
 
@@ -76,6 +91,8 @@ public:
     bool isPrefixNeeded(KesDialRulesItem* myKesDialRulesItem, std::string strPhoneNumber);
 
     static KesNumberingRules* instance;
+    /// The current store, for inspection only: it changes with every reload, so read the store
+    /// through KesNumberingConfig::getInstance().
     static KesNumberingConfig* config;
     static Logger* logger;
 

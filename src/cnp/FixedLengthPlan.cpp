@@ -10,18 +10,17 @@ namespace numbering {
 
 namespace {
 
-// Looked up on every call so that a reloaded store is seen. The dialing rules are expected to
-// hold the country; without it there is no prefix to add or to recognise.
-std::string nationalPrefix(KesNumberingConfig* config, const char* countryKey) {
-    KesNumberingConfig* store = config != nullptr ? config : KesNumberingConfig::getInstance();
-    KesCountryRuleItem* rule = store->getCountryRule(countryKey);
+// The dialing rules are expected to hold the country; without it there is no prefix to add or to
+// recognise.
+std::string nationalPrefix(const char* countryKey) {
+    KesCountryRuleItem* rule = KesNumberingConfig::getInstance()->getCountryRule(countryKey);
     return rule == nullptr ? std::string() : rule->getLongDistPrefix();
 }
 
 } // namespace
 
-std::string makeFixedLengthCanonicalNumber(const FixedLengthPlan& plan, KesNumberingConfig* config,
-                                           Logger* logger, std::string number, KesDialRulesItem* rules) {
+std::string makeFixedLengthCanonicalNumber(const FixedLengthPlan& plan, Logger* logger, std::string number,
+                                           KesDialRulesItem* rules) {
     if (rules == nullptr)
         return number;
     if (Logger::m_Traces)
@@ -31,7 +30,7 @@ std::string makeFixedLengthCanonicalNumber(const FixedLengthPlan& plan, KesNumbe
     if (number.size() == plan.nationalLength)
         return plan.canonical(number);
 
-    std::string natPfx = nationalPrefix(config, plan.countryKey);
+    std::string natPfx = nationalPrefix(plan.countryKey);
     if (natPfx.size() + number.size() == plan.nationalLength &&
         !(plan.completesOnlyUnprefixed && plantext::beginsWith(number, natPfx)) &&
         !rules->isLocalNumber(number) && !rules->isExceptionNumber(number)) {

@@ -13,7 +13,6 @@ class Logger;
 namespace numbering {
 
 class KesDialRulesItem;
-class KesNumberingConfig;
 
 /// What sets one fixed-length plan apart from the others.
 struct FixedLengthPlan {
@@ -27,10 +26,10 @@ struct FixedLengthPlan {
     std::string (*canonical)(std::string_view national);
 };
 
-/// The canonical form of `number`, or `number` unchanged. `config` may be null (the store is then
-/// fetched); a country without a dialing rules row has an empty national prefix.
-std::string makeFixedLengthCanonicalNumber(const FixedLengthPlan& plan, KesNumberingConfig* config,
-                                           Logger* logger, std::string number, KesDialRulesItem* rules);
+/// The canonical form of `number`, or `number` unchanged. A country without a dialing rules row
+/// has an empty national prefix.
+std::string makeFixedLengthCanonicalNumber(const FixedLengthPlan& plan, Logger* logger, std::string number,
+                                           KesDialRulesItem* rules);
 
 } // namespace numbering
 

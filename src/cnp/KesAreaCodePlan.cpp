@@ -2,6 +2,7 @@
 
 #include "config/PropertyFiles.h"
 #include "numbering/KesDialRulesItem.h"
+#include "numbering/KesNumberingConfig.h"
 #include "numbering/Logger.h"
 
 #include <algorithm>
@@ -22,8 +23,9 @@ KesAreaCodePlan::~KesAreaCodePlan() = default;
 void KesAreaCodePlan::loadAreaCodes(const PlanFile& file, Logger* planLogger) {
     try {
         std::unique_ptr<PropertyTable> properties =
-            openTableOrDefault(*file.installationFile, *file.defaultFile, planLogger, file.textWhenUnopenable,
-                               file.textWhenNotFound);
+            openTableOrDefault(KesNumberingConfig::configFile(file.installationFile),
+                               KesNumberingConfig::configFile(file.defaultFile), planLogger,
+                               file.textWhenUnopenable, file.textWhenNotFound);
         if (file.readsTranslate)
             translate = properties->getString("Translate") == "1";
         // The list ends at the first missing key (a gap included), by exception like a normal file.

@@ -11,7 +11,6 @@
 namespace numbering {
 
 Logger* KesCNP_33::logger = Logger::getLogger(typeid(KesCNP_33).name());
-KesNumberingConfig* KesCNP_33::config = nullptr;
 
 namespace {
 
@@ -27,13 +26,12 @@ const FixedLengthPlan FRANCE = {"FR", 10, true, frenchCanonical};
 KesCNP_33::KesCNP_33() {
     if (Logger::m_Traces)
         logger->debug("KesCNP_33()");
-    config = KesNumberingConfig::getInstance();
 }
 
 KesCNP_33::~KesCNP_33() = default;
 
 std::string KesCNP_33::dlr_Country_MakeCanonicalNumber(std::string number, KesDialRulesItem* rules) {
-    return makeFixedLengthCanonicalNumber(FRANCE, config, logger, std::move(number), rules);
+    return makeFixedLengthCanonicalNumber(FRANCE, logger, std::move(number), rules);
 }
 
 } // namespace numbering

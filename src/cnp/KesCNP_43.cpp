@@ -16,8 +16,7 @@ std::string KesCNP_43::AREA_CODES_DEFAULT_FILE =
 
 namespace {
 
-const KesAreaCodePlan::PlanFile PLAN_FILE = {&KesCNP_43::AREA_CODES_FILE,
-                                             &KesCNP_43::AREA_CODES_DEFAULT_FILE,
+const KesAreaCodePlan::PlanFile PLAN_FILE = {"tz310cnp_43.properties", "tz310cnp_43_default.properties",
                                              "No specific configuration file for Austria",
                                              "No specific dialing rules configuration file",
                                              "KesCNP_43",

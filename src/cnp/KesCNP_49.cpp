@@ -16,8 +16,7 @@ std::string KesCNP_49::AREA_CODES_DEFAULT_FILE =
 
 namespace {
 
-const KesAreaCodePlan::PlanFile PLAN_FILE = {&KesCNP_49::AREA_CODES_FILE,
-                                             &KesCNP_49::AREA_CODES_DEFAULT_FILE,
+const KesAreaCodePlan::PlanFile PLAN_FILE = {"tz310cnp_49.properties", "tz310cnp_49_default.properties",
                                              "No specific dialing rules configuration file",
                                              "No specific dialing rules configuration file",
                                              "KesCNP_49",

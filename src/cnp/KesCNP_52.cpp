@@ -17,8 +17,7 @@ std::string KesCNP_52::AREA_CODES_DEFAULT_FILE =
 
 namespace {
 
-const KesAreaCodePlan::PlanFile PLAN_FILE = {&KesCNP_52::AREA_CODES_FILE,
-                                             &KesCNP_52::AREA_CODES_DEFAULT_FILE,
+const KesAreaCodePlan::PlanFile PLAN_FILE = {"tz310cnp_52.properties", "tz310cnp_52_default.properties",
                                              "No specific configuration file for Mexico",
                                              "No specific dialing rules configuration file",
                                              "KesCNP_52",

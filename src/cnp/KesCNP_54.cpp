@@ -10,7 +10,6 @@
 
 namespace numbering {
 
-KesNumberingConfig* KesCNP_54::config = nullptr;
 std::string KesCNP_54::PREFIX_MOBILE_NATIONAL = "15";
 std::string KesCNP_54::PREFIX_MOBILE_INTERNATIONAL = "9";
 Logger* KesCNP_54::logger = Logger::getLogger(typeid(KesCNP_54).name());
@@ -20,8 +19,7 @@ std::string KesCNP_54::AREA_CODES_DEFAULT_FILE =
 
 namespace {
 
-const KesAreaCodePlan::PlanFile PLAN_FILE = {&KesCNP_54::AREA_CODES_FILE,
-                                             &KesCNP_54::AREA_CODES_DEFAULT_FILE,
+const KesAreaCodePlan::PlanFile PLAN_FILE = {"tz310cnp_54.properties", "tz310cnp_54_default.properties",
                                              "No specific configuration file for Argentina",
                                              "No specific configuration file for Argentina",
                                              "KesCNP_54",
@@ -38,9 +36,7 @@ bool beginsWith(const std::string& text, const std::string& prefix) {
 
 } // namespace
 
-KesCNP_54::KesCNP_54() : KesAreaCodePlan(PLAN_FILE, logger) {
-    config = KesNumberingConfig::getInstance();
-}
+KesCNP_54::KesCNP_54() : KesAreaCodePlan(PLAN_FILE, logger) {}
 
 KesCNP_54::~KesCNP_54() {
     if (Logger::m_Traces)
@@ -52,7 +48,6 @@ bool KesCNP_54::strip(const std::string& number, KesDialRulesItem* rules, Stripp
         return false;
     if (Logger::m_Traces)
         logger->debug("stripNbr('" + number + "', '" + rules->ToString() + "')");
-    // The current store, not `config`: the store may have been reset and reloaded since construction.
     // Without an "AR" row the national prefix is taken as empty, which every number begins with.
     KesCountryRuleItem* argentina = KesNumberingConfig::getInstance()->getCountryRule("AR");
     std::string nationalPrefix = argentina != nullptr ? argentina->getLongDistPrefix() : std::string();

@@ -11,7 +11,6 @@
 namespace numbering {
 
 Logger* KesCNP_57::logger = Logger::getLogger(typeid(KesCNP_57).name());
-KesNumberingConfig* KesCNP_57::config = nullptr;
 std::string KesCNP_57::CNP_FILE = KesNumberingConfig::configFile("tz310cnp_57.properties");
 std::string KesCNP_57::CNP_DEFAULT_FILE = KesNumberingConfig::configFile("tz310cnp_57_default.properties");
 
@@ -41,7 +40,6 @@ std::string canonical(std::string_view number, KesDialRulesItem* rules) {
 KesCNP_57::KesCNP_57() {
     if (Logger::m_Traces)
         logger->debug("KesCNP_57()");
-    config = KesNumberingConfig::getInstance();
 }
 
 KesCNP_57::~KesCNP_57() {

@@ -15,8 +15,7 @@ std::string KesCNP_61::AREA_CODES_DEFAULT_FILE =
 
 namespace {
 
-const KesAreaCodePlan::PlanFile PLAN_FILE = {&KesCNP_61::AREA_CODES_FILE,
-                                             &KesCNP_61::AREA_CODES_DEFAULT_FILE,
+const KesAreaCodePlan::PlanFile PLAN_FILE = {"tz310cnp_61.properties", "tz310cnp_61_default.properties",
                                              "No specific configuration file for Australia",
                                              "No specific dialing rules configuration file",
                                              "KesCNP_61",

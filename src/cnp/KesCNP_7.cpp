@@ -11,7 +11,6 @@
 namespace numbering {
 
 Logger* KesCNP_7::logger = Logger::getLogger(typeid(KesCNP_7).name());
-KesNumberingConfig* KesCNP_7::config = nullptr;
 
 namespace {
 
@@ -28,14 +27,12 @@ const FixedLengthPlan RUSSIA = {"RU", 11, false, russianCanonical};
 KesCNP_7::KesCNP_7() {
     if (Logger::m_Traces)
         logger->debug("KesCNP_7()");
-    if (config == nullptr)
-        config = KesNumberingConfig::getInstance();
 }
 
 KesCNP_7::~KesCNP_7() = default;
 
 std::string KesCNP_7::dlr_Country_MakeCanonicalNumber(std::string number, KesDialRulesItem* rules) {
-    return makeFixedLengthCanonicalNumber(RUSSIA, config, logger, std::move(number), rules);
+    return makeFixedLengthCanonicalNumber(RUSSIA, logger, std::move(number), rules);
 }
 
 } // namespace numbering

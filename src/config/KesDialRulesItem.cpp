@@ -1,5 +1,6 @@
 #include "numbering/KesDialRulesItem.h"
 
+#include "Configuration.h"
 #include "numbering/KesNumberingConfig.h"
 #include "numbering/KesUnsupportedCountryException.h"
 #include "numbering/Logger.h"
@@ -37,7 +38,8 @@ void KesDialRulesItem::checkCountry(const std::string& code) {
     if (code.size() != 2)
         throw std::invalid_argument(
             "'strCountryCode' parameter can not be null and must be an Alpha-2 ISO 3166 country code");
-    KesNumberingConfig* config = KesNumberingConfig::getInstance();
+    PinnedConfiguration pin; // a reload may run on another thread
+    KesNumberingConfig* config = pin.store();
     if (config == nullptr)
         throw KesUnsupportedCountryException(code, "Dialing rules configuration can not be loaded");
     if (!config->validCountryCode(code))

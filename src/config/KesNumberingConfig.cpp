@@ -1,10 +1,8 @@
 #include "numbering/KesNumberingConfig.h"
 
+#include "Configuration.h"
 #include "PropertyFiles.h"
-#include "ShortKeyIndex.h"
-#include "numbering/KesCNP_33.h"
-#include "numbering/KesCNP_57.h"
-#include "numbering/KesCNP_7.h"
+#include "TextKeyMap.h"
 #include "numbering/Logger.h"
 #include "numbering/number_format_exception.h"
 
@@ -24,6 +22,7 @@ Logger* KesNumberingConfig::logger = Logger::getLogger(typeid(KesNumberingConfig
 int KesNumberingConfig::MAX_PHONE_NUMBER_LENGTH = 30;
 int KesNumberingConfig::MAX_COUNTRY_NUMBER_LENGTH = 3;
 
+// Named at load time, while no configuration exists: each is the file of the start directory.
 std::string KesNumberingConfig::DIALING_RULES_FILE = configFile("dialingrules.properties");
 std::string KesNumberingConfig::DIALING_RULES_DEFAULT_FILE = configFile("dialingrules_default.properties");
 std::string KesNumberingConfig::COUNTRY_MASKS_FILE = configFile("dlr_cnp_mask.properties");
@@ -31,18 +30,6 @@ std::string KesNumberingConfig::COUNTRY_MASKS_DEFAULT_FILE = configFile("dlr_cnp
 std::string KesNumberingConfig::SPECIFIC_FORMAT_FILE = configFile("specific_format_activation.properties");
 std::string KesNumberingConfig::SPECIFIC_FORMAT_DEFAULT_FILE =
     configFile("specific_format_activation_default.properties");
-
-/// The maps the conversions read, by short key: the records by country code, the country (code and
-/// record) of each primary calling code, and the masks. Longer keys are looked up in the maps.
-struct KesNumberingConfig::Index {
-    struct Country {
-        std::string code;
-        KesCountryRuleItem* rule; // null when the code names no record
-    };
-    ShortKeyIndex<KesCountryRuleItem*> rules;
-    ShortKeyIndex<Country> countries;
-    ShortKeyIndex<std::string> masks;
-};
 
 namespace {
 
@@ -52,13 +39,12 @@ const char* const NO_DIALING_RULES_FILE = "No specific dialing rules configurati
 } // namespace
 
 std::string KesNumberingConfig::configDirectory() {
-    const char* overridden = std::getenv("NUMBERING_CONFIG_DIR");
-    if (overridden == nullptr || *overridden == '\0')
-        return "/current/tele_mnt/lib_numbering/";
-    std::string directory(overridden);
-    if (directory.back() != '/')
-        directory += '/';
-    return directory;
+    if (PinnedConfiguration::active())
+        return Configuration::inUse().directory;
+    // Not inside a conversion: the current configuration's, without loading one.
+    std::lock_guard<std::recursive_mutex> lock(Configuration::lifecycle());
+    Configuration* current = Configuration::current();
+    return current != nullptr ? current->directory : Configuration::chosenDirectory();
 }
 
 std::string KesNumberingConfig::configFile(const std::string& fileName) {
@@ -66,19 +52,17 @@ std::string KesNumberingConfig::configFile(const std::string& fileName) {
 }
 
 KesNumberingConfig* KesNumberingConfig::getInstance() {
-    if (instance == nullptr)
-        instance = new KesNumberingConfig();
-    return instance;
+    return Configuration::inUse().store;
 }
 
 void KesNumberingConfig::resetInstance() {
-    delete instance;
-    instance = nullptr;
+    Configuration::reset();
 }
 
-KesNumberingConfig::KesNumberingConfig()
-    : countryCodeByNumber(BUCKETS), countryCodeByName(BUCKETS), countryRules(BUCKETS), countryMasks(BUCKETS),
-      specificFormatActivation(BUCKETS), index(new Index) {
+KesNumberingConfig::KesNumberingConfig(const std::string& configurationDirectory)
+    : directory(configurationDirectory), countryCodeByNumber(new TextKeyMap<Country>),
+      countryCodeByName(new TextKeyMap<std::string>), countryRules(new TextKeyMap<Poco::AutoPtr<KesCountryRuleItem>>),
+      countryMasks(new TextKeyMap<std::string>), specificFormatActivation(BUCKETS) {
     if (Logger::m_Traces)
         logger->debug("KesNumberingConfig()");
     loadDialingRules();
@@ -90,14 +74,6 @@ KesNumberingConfig::KesNumberingConfig()
 KesNumberingConfig::~KesNumberingConfig() {
     if (Logger::m_Traces)
         logger->debug("~KesNumberingConfig()");
-    // Plans that keep the store must not point at a destroyed one; they fetch the next on use.
-    KesCNP_33::config = KesCNP_57::config = KesCNP_7::config = nullptr;
-    countryCodeByNumber.clear();
-    countryCodeByName.clear();
-    countryRules.clear();
-    countryMasks.clear();
-    countryList.clear();
-    specificFormatActivation.clear();
 }
 
 bool KesNumberingConfig::loadDialingRules() {
@@ -105,7 +81,8 @@ bool KesNumberingConfig::loadDialingRules() {
         logger->debug("loadDialingRules()");
     bool complete = true;
     try {
-        PropertyFile file = openInstallationOrDefault(DIALING_RULES_FILE, DIALING_RULES_DEFAULT_FILE, logger,
+        PropertyFile file = openInstallationOrDefault(directory + "dialingrules.properties",
+                                                      directory + "dialingrules_default.properties", logger,
                                                       NO_DIALING_RULES_FILE, NO_DIALING_RULES_FILE);
         Poco::Util::AbstractConfiguration::Keys codes;
         file->keys(codes);
@@ -118,32 +95,22 @@ bool KesNumberingConfig::loadDialingRules() {
             Poco::AutoPtr<KesCountryRuleItem> rule(
                 new KesCountryRuleItem(field[0], field[1], field[2], field[3], field[4], field[5]));
             // Insertion never replaces: of two rows for the same key, the first in key order stays.
+            KesCountryRuleItem* stored = countryRules->insert(code, rule).get();
             if (field[6] == "P")
-                countryCodeByNumber.insert(std::make_pair(field[0], code));
-            countryCodeByName.insert(std::make_pair(field[5], code));
-            countryRules.insert(std::make_pair(code, rule));
+                countryCodeByNumber->insert(field[0], Country{code, stored});
+            countryCodeByName->insert(field[5], code);
         }
     } catch (const std::exception& e) {
         logger->error(std::string("KesNumberingConfig::loadDialingRules Exception : ") + e.what());
         complete = false; // what was loaded before the failure stays
     }
-    reindex();
     return complete;
-}
-
-void KesNumberingConfig::reindex() {
-    index->rules.assignFrom(countryRules, [](auto& entry) { return entry.second.get(); });
-    index->countries.assignFrom(countryCodeByNumber, [this](auto& entry) {
-        return Index::Country{entry.second, findCountryRule(entry.second)};
-    });
-    index->masks.assignFrom(countryMasks, [](auto& entry) { return entry.second; });
 }
 
 void KesNumberingConfig::createListCountryDisplay() {
     if (Logger::m_Traces)
         logger->debug("createListCountryDisplay()");
-    for (const auto& entry : countryCodeByName)
-        countryList.push_back(entry.first);
+    countryCodeByName->forEach([this](std::string_view name, const std::string&) { countryList.emplace_back(name); });
     std::sort(countryList.begin(), countryList.end());
 }
 
@@ -153,7 +120,8 @@ bool KesNumberingConfig::loadCountryMasks() {
     bool complete = true;
     try {
         // The info text names the dialing rules although the masks are meant: hosts grep for it.
-        PropertyFile file = openInstallationOrDefault(COUNTRY_MASKS_FILE, COUNTRY_MASKS_DEFAULT_FILE, logger,
+        PropertyFile file = openInstallationOrDefault(directory + "dlr_cnp_mask.properties",
+                                                      directory + "dlr_cnp_mask_default.properties", logger,
                                                       NO_DIALING_RULES_FILE, NO_DIALING_RULES_FILE);
         Poco::Util::AbstractConfiguration::Keys keys;
         file->keys(keys);
@@ -172,7 +140,7 @@ bool KesNumberingConfig::loadCountryMasks() {
             std::string mask = file->getString(key);
             if (mask.empty())
                 continue;
-            countryMasks.insert(std::make_pair(countryNumber, mask));
+            countryMasks->insert(countryNumber, mask);
             ++loaded;
         }
         if (Logger::m_Traces) {
@@ -185,7 +153,6 @@ bool KesNumberingConfig::loadCountryMasks() {
         logger->error(std::string("KesNumberingConfig::loadCountryMasks Exception : ") + e.what());
         complete = false; // what was loaded before the failure stays
     }
-    reindex();
     return complete;
 }
 
@@ -194,7 +161,8 @@ bool KesNumberingConfig::loadSpecificFormatActivation() {
         logger->debug("loadSpecificFormatActivation()");
     try {
         PropertyFile file =
-            openInstallationOrDefault(SPECIFIC_FORMAT_FILE, SPECIFIC_FORMAT_DEFAULT_FILE, logger,
+            openInstallationOrDefault(directory + "specific_format_activation.properties",
+                                      directory + "specific_format_activation_default.properties", logger,
                                       "No specific format activation configuration file",
                                       "No specific format activation configuration file");
         Poco::Util::AbstractConfiguration::Keys keys;
@@ -263,8 +231,8 @@ std::vector<std::string>& KesNumberingConfig::getCountryList() {
 std::string KesNumberingConfig::getCountryCodeFromName(std::string name) {
     if (name.empty())
         return std::string();
-    auto found = countryCodeByName.find(name);
-    return found == countryCodeByName.end() ? std::string() : found->second;
+    const std::string* code = countryCodeByName->find(name);
+    return code == nullptr ? std::string() : *code;
 }
 
 std::string KesNumberingConfig::getCountryCodeFromNumber(std::string number) {
@@ -296,48 +264,33 @@ std::string KesNumberingConfig::extractCountryNumber(std::string number) {
 }
 
 KesCountryRuleItem* KesNumberingConfig::findCountryRule(std::string_view code) const {
-    // Every look-up by code demands two characters, which the index always holds.
+    // Every look-up by code demands two characters.
     if (code.size() != 2)
         return nullptr;
-    KesCountryRuleItem* const* rule = index->rules.find(code);
-    return rule == nullptr ? nullptr : *rule;
+    Poco::AutoPtr<KesCountryRuleItem>* rule = countryRules->find(code);
+    return rule == nullptr ? nullptr : rule->get();
 }
 
 const std::string* KesNumberingConfig::findCountryCode(std::string_view number) const {
-    if (number.empty())
-        return nullptr;
-    if (ShortKeyIndex<Index::Country>::indexable(number)) {
-        const Index::Country* country = index->countries.find(number);
-        return country == nullptr ? nullptr : &country->code;
-    }
-    auto found = countryCodeByNumber.find(std::string(number));
-    return found == countryCodeByNumber.end() ? nullptr : &found->second;
+    const Country* country = number.empty() ? nullptr : countryCodeByNumber->find(number);
+    return country == nullptr ? nullptr : &country->code;
 }
 
 KesCountryRuleItem* KesNumberingConfig::findCountryRuleOfNumber(std::string_view number) const {
-    if (ShortKeyIndex<Index::Country>::indexable(number)) {
-        const Index::Country* country = index->countries.find(number);
-        return country == nullptr ? nullptr : country->rule;
-    }
-    const std::string* code = findCountryCode(number);
-    return code == nullptr ? nullptr : findCountryRule(*code);
+    const Country* country = countryCodeByNumber->find(number);
+    return country == nullptr ? nullptr : country->rule;
 }
 
 std::size_t KesNumberingConfig::countryNumberLength(std::string_view number) const {
     // Shortest first, and up to four characters although calling codes have at most three.
     for (std::size_t n = 1; n <= 4 && n <= number.size(); ++n)
-        if (index->countries.find(number.substr(0, n)) != nullptr)
+        if (countryCodeByNumber->find(number.substr(0, n)) != nullptr)
             return n;
     return 0;
 }
 
 const std::string* KesNumberingConfig::findDefaultPattern(std::string_view countryNumber) const {
-    if (countryNumber.empty())
-        return nullptr;
-    if (ShortKeyIndex<std::string>::indexable(countryNumber))
-        return index->masks.find(countryNumber);
-    auto found = countryMasks.find(std::string(countryNumber));
-    return found == countryMasks.end() ? nullptr : &found->second;
+    return countryNumber.empty() ? nullptr : countryMasks->find(countryNumber);
 }
 
 } // namespace numbering

@@ -1,5 +1,6 @@
 #include "numbering/KesNumberingRules.h"
 
+#include "config/Configuration.h"
 #include "numbering/KesCountryRuleItem.h"
 #include "numbering/KesDialRulesItem.h"
 #include "numbering/KesDialable.h"
@@ -59,12 +60,13 @@ DialableFields parseCanonical(const std::string& canonical) {
 
 std::string KesNumberingRules::makeDialableNumber(KesDialRulesItem* myKesDialRulesItem,
                                                   std::string strCanPhoneNumber) {
+    PinnedConfiguration pin;
     const std::string countryId = myKesDialRulesItem->getCountryId();
     const std::vector<std::string>& areaCodes = myKesDialRulesItem->getAreaCodesList();
     if (Logger::m_Traces)
         logger->debug("makeDialableNumber('" + countryId + "', '" +
                       (areaCodes.empty() ? "" : areaCodes.front()) + "', '" + strCanPhoneNumber + "')");
-    KesCountryRuleItem* countryRule = config->findCountryRule(countryId);
+    KesCountryRuleItem* countryRule = pin.store()->findCountryRule(countryId);
     if (countryRule == nullptr) {
         if (Logger::m_Traces)
             logger->debug("KesNumberingRules:makePhoneNumber no rules defined for this country : " +

@@ -1,6 +1,7 @@
 #include "numbering/KesDialableManager.h"
 
-#include "config/ShortKeyIndex.h"
+#include "config/Configuration.h"
+#include "config/TextKeyMap.h"
 #include "numbering/KesDialableFactory.h"
 #include "numbering/Logger.h"
 
@@ -14,34 +15,38 @@ Logger* KesDialableManager::logger = Logger::getLogger(typeid(KesDialableManager
 KesDialableManager* KesDialableManager::getInstance() {
     if (Logger::m_Traces)
         logger->debug("getInstance()");
-    if (instance == nullptr)
-        instance = new KesDialableManager();
-    return instance;
+    Configuration& configuration = Configuration::inUse();
+    return configuration.cache<KesDialableManager>(Configuration::STRATEGIES, [&configuration] {
+        auto* made = new KesDialableManager();
+        if (&configuration == Configuration::current())
+            instance = made;
+        return made;
+    });
 }
 
 void KesDialableManager::resetInstance() {
-    delete instance;
-    instance = nullptr;
+    if (Configuration* current = Configuration::current())
+        current->dropCache(Configuration::STRATEGIES);
 }
 
-KesDialableManager::KesDialableManager() : index(new ShortKeyIndex<KesDialable*>) {
+KesDialableManager::KesDialableManager() : strategies(new TextKeyMap<Poco::AutoPtr<KesDialable>>) {
     if (Logger::m_Traces)
         logger->debug("KesDialableManager()");
 }
 
-KesDialableManager::~KesDialableManager() = default;
+KesDialableManager::~KesDialableManager() {
+    if (instance == this)
+        instance = nullptr;
+}
 
 KesDialable* KesDialableManager::getDialable(std::string countryNumber) {
     if (Logger::m_Traces)
         logger->debug("getDialable('" + countryNumber + "')");
-    if (ShortKeyIndex<KesDialable*>::indexable(countryNumber)) {
-        if (KesDialable* const* strategy = index->find(countryNumber))
-            return *strategy;
-    } else {
-        auto found = strategies.find(countryNumber);
-        if (found != strategies.end())
-            return found->second.get();
-    }
+    if (Poco::AutoPtr<KesDialable>* cached = strategies->find(countryNumber))
+        return cached->get();
+    Poco::FastMutex::ScopedLock lock(mutex);
+    if (Poco::AutoPtr<KesDialable>* cached = strategies->find(countryNumber))
+        return cached->get();
     return loadDialableClass(countryNumber);
 }
 
@@ -52,13 +57,7 @@ KesDialable* KesDialableManager::loadDialableClass(std::string countryNumber) {
     if (countryNumber.empty())
         return nullptr;
     Poco::AutoPtr<KesDialable> strategy(KesDialableFactory::CreateInstance(countryNumber));
-    KesDialable* cached = strategies.insert(std::make_pair(countryNumber, strategy)).first->second.get();
-    reindex();
-    return cached;
-}
-
-void KesDialableManager::reindex() {
-    index->assignFrom(strategies, [](auto& entry) { return entry.second.get(); });
+    return strategies->insert(countryNumber, strategy).get();
 }
 
 } // namespace numbering

@@ -1,5 +1,6 @@
 #include "numbering/KesNumberingRules.h"
 
+#include "config/Configuration.h"
 #include "numbering/KesDialRulesItem.h"
 #include "numbering/Logger.h"
 #include "rules/ConversionGuard.h"
@@ -40,6 +41,7 @@ std::string KesNumberingRules::makePhoneNumber(KesDialRulesItem* myKesDialRulesI
     requireArguments(myKesDialRulesItem, strPhoneNumber);
     if (contains(strPhoneNumber, "***"))
         return strPhoneNumber;
+    PinnedConfiguration pin; // the canonical and the dialled forms from one configuration
     if (Logger::m_Traces)
         logger->debug("makePhoneNumber with : " + strPhoneNumber);
     auto convert = [&]() -> std::string {
@@ -76,6 +78,7 @@ std::string KesNumberingRules::addExternalPrefix(KesDialRulesItem* myKesDialRule
     requireArguments(myKesDialRulesItem, strPhoneNumber);
     if (contains(strPhoneNumber, "***"))
         return strPhoneNumber;
+    PinnedConfiguration pin; // the canonical and the dialled forms from one configuration
     if (Logger::m_Traces)
         logger->debug("addExternalPrefix with : " + strPhoneNumber);
     auto convert = [&]() -> std::string {

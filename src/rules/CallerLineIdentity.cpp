@@ -7,6 +7,7 @@
 #include "numbering/KesCountryRuleItem.h"
 #include "numbering/KesDialRulesItem.h"
 #include "numbering/KesEnumOrigin.h"
+#include "config/Configuration.h"
 #include "numbering/KesNumberingConfig.h"
 #include "numbering/Logger.h"
 
@@ -17,6 +18,7 @@ namespace numbering {
 // area and subscriber from abroad; digits only.
 KesClid* KesNumberingRules::makeClid(KesDialRulesItem* myKesDialRulesItem, std::string strPhoneNumber) {
     requireArguments(myKesDialRulesItem, strPhoneNumber);
+    PinnedConfiguration pin; // the canonical form and the country rules from one configuration
     if (Logger::m_Traces)
         logger->debug("makeClid with : " + strPhoneNumber);
     std::string can = makeCanonicalNumber(myKesDialRulesItem, std::move(strPhoneNumber), "");
@@ -31,7 +33,7 @@ KesClid* KesNumberingRules::makeClid(KesDialRulesItem* myKesDialRulesItem, std::
     std::string sub;
     appendExtensionOf(can, sub);
 
-    KesCountryRuleItem* ownRule = config->findCountryRule(myKesDialRulesItem->getCountryId());
+    KesCountryRuleItem* ownRule = pin.store()->findCountryRule(myKesDialRulesItem->getCountryId());
     static const std::string none;
     const std::string& ownCn = ownRule == nullptr ? none : ownRule->countryNumberText();
     const std::string& ldp = ownRule == nullptr ? none : ownRule->longDistPrefixText();

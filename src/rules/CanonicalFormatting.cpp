@@ -3,6 +3,7 @@
 #include "ConversionGuard.h"
 #include "FacadeInternals.h"
 #include "NumberText.h"
+#include "config/Configuration.h"
 #include "numbering/KesCountryRuleItem.h"
 #include "numbering/KesNumberingConfig.h"
 #include "numbering/Logger.h"
@@ -12,6 +13,7 @@ namespace numbering {
 std::string KesNumberingRules::generateDefaultCanonicalNumber(std::string strPhoneNumber,
                                                               std::string strCountryCode,
                                                               std::string strAreaCode) {
+    PinnedConfiguration pin;
     return defaultCanonicalNumber(std::move(strPhoneNumber), strCountryCode, strAreaCode);
 }
 
@@ -24,7 +26,7 @@ std::string defaultCanonicalNumber(std::string strPhoneNumber, const std::string
     std::string result;
     KesCountryRuleItem* rule = strPhoneNumber.empty() || strCountryCode.empty()
                                    ? nullptr
-                                   : KesNumberingRules::config->findCountryRule(strCountryCode);
+                                   : KesNumberingConfig::getInstance()->findCountryRule(strCountryCode);
     if (rule != nullptr) {
         const std::string& ldp = rule->longDistPrefixText();
         std::string& work = strPhoneNumber;
@@ -83,13 +85,14 @@ CanonicalParts splitCanonical(std::string_view number, std::string::size_type op
 /// Whether `area` is the national prefix of the country with calling code `countryNumber`, which a
 /// mask's "a" leaves out. An unknown country has none.
 bool isNationalPrefix(std::string_view area, std::string_view countryNumber) {
-    KesCountryRuleItem* rule = KesNumberingRules::config->findCountryRuleOfNumber(countryNumber);
+    KesCountryRuleItem* rule = KesNumberingConfig::getInstance()->findCountryRuleOfNumber(countryNumber);
     return rule != nullptr && area == rule->longDistPrefixText();
 }
 
 } // namespace
 
 std::string KesNumberingRules::formatCanonicalNumber(std::string strCanPhoneNumber, std::string strPattern) {
+    PinnedConfiguration pin;
     return formatCanonical(strCanPhoneNumber, strPattern);
 }
 
@@ -111,7 +114,7 @@ std::string formatCanonical(const std::string& strCanPhoneNumber, const std::str
                 // A country without a mask gets the empty one, which keeps only the subscriber
                 // number: the shipped configuration has a mask for every calling code.
                 static const std::string noMask;
-                const std::string* mask = KesNumberingRules::config->findDefaultPattern(
+                const std::string* mask = KesNumberingConfig::getInstance()->findDefaultPattern(
                     trimmed(between(strCanPhoneNumber, 1, open)));
                 pattern = mask == nullptr ? &noMask : mask;
             }

@@ -3,6 +3,7 @@
 #include "ConversionGuard.h"
 #include "FacadeInternals.h"
 #include "NumberText.h"
+#include "config/Configuration.h"
 #include "numbering/KesCountryRuleItem.h"
 #include "numbering/KesNumberingConfig.h"
 #include "numbering/Logger.h"
@@ -13,6 +14,7 @@ namespace numbering {
 
 std::string KesNumberingRules::makeGSMCanonicalNumber(KesDialRulesItem* myKesDialRulesItem,
                                                       std::string strPhoneNumber, bool withExternalPrefix) {
+    PinnedConfiguration pin; // the canonical form and its GSM form from one configuration
     std::string can =
         makeCanonicalNumber(myKesDialRulesItem, std::move(strPhoneNumber), "", withExternalPrefix);
     if (startsWith(can, '+'))
@@ -21,6 +23,7 @@ std::string KesNumberingRules::makeGSMCanonicalNumber(KesDialRulesItem* myKesDia
 }
 
 std::string KesNumberingRules::formatToGSMCanonicalNumber(std::string strCanPhoneNumber) {
+    PinnedConfiguration pin;
     return formatToGsm(strCanPhoneNumber);
 }
 

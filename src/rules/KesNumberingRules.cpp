@@ -4,6 +4,7 @@
 #include "ConversionGuard.h"
 #include "FacadeInternals.h"
 #include "NumberText.h"
+#include "config/Configuration.h"
 #include "numbering/KesCNP.h"
 #include "numbering/KesCNPManager.h"
 #include "numbering/KesCountryRuleItem.h"
@@ -14,6 +15,8 @@
 #include "numbering/Logger.h"
 
 #include <algorithm>
+#include <atomic>
+#include <mutex>
 #include <optional>
 #include <stdexcept>
 #include <typeinfo>
@@ -27,20 +30,40 @@ Logger* KesNumberingRules::logger = Logger::getLogger(typeid(KesNumberingRules).
 std::string KesNumberingRules::TELEPHONENUMBER_SPECIAL_CHARACTER = "*#ABCD";
 std::string KesNumberingRules::TELEPHONENUMBER_FORMAT_CHARACTER = " ()-.";
 
+namespace {
+
+/// The facade, published for getInstance()'s look-up without a lock; `instance` mirrors it.
+std::atomic<KesNumberingRules*> facade{nullptr};
+
+/// Keeps `config` on the current store when a reload replaces it.
+void followCurrentStore() {
+    if (KesNumberingRules::instance != nullptr)
+        KesNumberingRules::config = KesNumberingConfig::instance;
+}
+
+} // namespace
+
 KesNumberingRules* KesNumberingRules::getInstance() {
-    if (instance == nullptr)
+    if (KesNumberingRules* made = facade.load(std::memory_order_acquire))
+        return made;
+    std::lock_guard<std::recursive_mutex> lock(Configuration::lifecycle());
+    if (instance == nullptr) {
         instance = new KesNumberingRules();
+        facade.store(instance, std::memory_order_release);
+    }
     return instance;
 }
 
 void KesNumberingRules::resetInstance() {
     if (Logger::m_Traces)
         logger->debug("Releasing resources");
+    std::lock_guard<std::recursive_mutex> lock(Configuration::lifecycle());
     // The caches hold plans and strategies built from the store's rules: they go first.
     KesCNPManager::resetInstance();
     KesDialableManager::resetInstance();
     KesNumberingConfig::resetInstance();
     config = nullptr;
+    facade.store(nullptr, std::memory_order_release);
     // The class has no virtual destructor; the singleton is always made by getInstance() as a
     // KesNumberingRules itself, so the destructor called here is the right one.
 #pragma GCC diagnostic push
@@ -48,6 +71,14 @@ void KesNumberingRules::resetInstance() {
     delete instance;
 #pragma GCC diagnostic pop
     instance = nullptr;
+}
+
+void KesNumberingRules::reload() {
+    Configuration::reload(nullptr, followCurrentStore);
+}
+
+void KesNumberingRules::reload(const std::string& configDirectory) {
+    Configuration::reload(&configDirectory, followCurrentStore);
 }
 
 KesNumberingRules::KesNumberingRules() {
@@ -58,19 +89,23 @@ KesNumberingRules::KesNumberingRules() {
 }
 
 std::vector<std::string> KesNumberingRules::getCountryList() {
-    return config->getCountryList();
+    PinnedConfiguration pin;
+    return pin.store()->getCountryList();
 }
 
 std::string KesNumberingRules::getCountryCode(std::string countryName) {
-    return config->getCountryCodeFromName(std::move(countryName));
+    PinnedConfiguration pin;
+    return pin.store()->getCountryCodeFromName(std::move(countryName));
 }
 
 std::string KesNumberingRules::getCountryName(std::string countryCode) {
-    return config->getCountryName(std::move(countryCode));
+    PinnedConfiguration pin;
+    return pin.store()->getCountryName(std::move(countryCode));
 }
 
 std::string KesNumberingRules::getCountryCodeFromNumber(std::string countryNumber) {
-    return config->getCountryCodeFromNumber(std::move(countryNumber));
+    PinnedConfiguration pin;
+    return pin.store()->getCountryCodeFromNumber(std::move(countryNumber));
 }
 
 namespace {
@@ -134,7 +169,7 @@ std::string cleanNationalNumber(std::string_view strValid, bool& serviceCode) {
 /// nationally as well; calling another country drops it.
 void readInternationalPrefix(Conversion& work, const std::string& strPhoneNumber, const std::string& digits,
                              const std::string& internatPfx, KesCountryRuleItem* countryRule) {
-    KesNumberingConfig* config = KesNumberingRules::config;
+    KesNumberingConfig* config = KesNumberingConfig::getInstance();
     Logger* logger = KesNumberingRules::logger;
     KesDialable* dialable = requireDialable(countryRule->countryNumberText());
     const std::string opPrefix = dialable->extractOperatorPrefix(digits.substr(internatPfx.size()));
@@ -185,7 +220,7 @@ bool isNationalByPrefix(const std::string& strPhoneNumber, KesCountryRuleItem* c
 /// A number in international form: its calling code names the country, and the rest is written as
 /// that country dials it nationally, so that the country's plan can take it from there.
 void readInternationalForm(Conversion& work, std::string_view strValid) {
-    KesNumberingConfig* config = KesNumberingRules::config;
+    KesNumberingConfig* config = KesNumberingConfig::getInstance();
     std::string_view countryNumber = countryNumberOf(strValid);
     const std::string* countryCode;
     if (countryNumber.empty()) {
@@ -241,6 +276,7 @@ bool prefixNeeded(KesDialRulesItem* rules, const std::string& number) {
 
 std::string KesNumberingRules::makeCanonicalNumber(KesDialRulesItem* myKesDialRulesItem,
                                                    std::string strPhoneNumber, std::string strPattern) {
+    PinnedConfiguration pin;
     return makeCanonicalNumber(myKesDialRulesItem, std::move(strPhoneNumber), std::move(strPattern), false);
 }
 
@@ -248,6 +284,8 @@ std::string KesNumberingRules::makeCanonicalNumber(KesDialRulesItem* myKesDialRu
                                                    std::string strPhoneNumber, std::string strPattern,
                                                    bool withExternalPrefix) {
     requireArguments(myKesDialRulesItem, strPhoneNumber);
+    PinnedConfiguration pin;
+    KesNumberingConfig* config = pin.store();
     auto convert = [&]() -> std::string {
         if (contains(strPhoneNumber, "***"))
             return strPhoneNumber;

@@ -83,23 +83,14 @@ TEST_F(FixedLengthPlans, MissingCountryRowsMeanNoNationalPrefix) {
                        {"084951234567", "+7 (495) 1234567"}});
 }
 
-TEST_F(FixedLengthPlans, StoreResetClearsTheKeptStoreAndPlansUseTheNextOne) {
+TEST_F(FixedLengthPlans, PlansReadTheStoreInUseAfterAReset) {
     KesCNP_7 russia;
     KesCNP_33 france;
-    EXPECT_EQ(KesCNP_7::config, KesNumberingConfig::getInstance());
-    EXPECT_EQ(KesCNP_33::config, KesNumberingConfig::getInstance());
-
     testconfig::write("dialingrules.properties", WORLD_WITHOUT_FRANCE_AND_RUSSIA);
     testconfig::reload();
-    EXPECT_EQ(KesCNP_7::config, nullptr);
-    EXPECT_EQ(KesCNP_33::config, nullptr);
 
     // The plans built before the reset read the new store: it has no Russian prefix to add.
     KesDialRulesItem rules;
     expectConversions(russia, rules, {{"4951234567", UNCHANGED}, {"84951234567", "+7 (495) 1234567"}});
     expectConversions(france, rules, {{"123456789", UNCHANGED}});
-
-    // A plan built after the reset takes the new store.
-    KesCNP_7 next;
-    EXPECT_EQ(KesCNP_7::config, KesNumberingConfig::getInstance());
 }

@@ -1,88 +1,243 @@
-// Conversions from many threads once the caches are warm: the host creates the singletons and
-// converts one number per country first, then every thread must get the single-threaded answers.
-// Built again under ThreadSanitizer by the test command.
-#include "TestConfig.h"
+// Conversions from many threads with no warm-up, and reloads of the configuration while they go
+// on, on the shipped world (data/). Built again under ThreadSanitizer and AddressSanitizer by the
+// test command: besides the results checked here, the sanitizers see every race and leak.
+#include "ExampleNumbers.h"
 
+#include "numbering/KesAreaCodeTree.h"
+#include "numbering/KesCNP.h"
 #include "numbering/KesClid.h"
+#include "numbering/KesCountryRuleItem.h"
 #include "numbering/KesDialRulesItem.h"
+#include "numbering/KesDialable.h"
 #include "numbering/KesNumberingRules.h"
 
 #include <gtest/gtest.h>
 
+#include <algorithm>
 #include <atomic>
+#include <chrono>
+#include <condition_variable>
+#include <cstdlib>
+#include <filesystem>
+#include <fstream>
+#include <iostream>
 #include <memory>
+#include <mutex>
+#include <random>
+#include <set>
 #include <string>
 #include <thread>
+#include <unistd.h>
 #include <vector>
 
 using namespace numbering;
+namespace fs = std::filesystem;
 
 namespace {
 
-struct Installation {
-    const char* country;
-    const char* extPrefix;
-    const char* areaCodes;
-};
+const int THREADS = 8;
 
-const Installation INSTALLATIONS[] = {
-    {"FR", "0", "1"}, {"DE", "0", "89"}, {"GB", "9", "20"}, {"US", "9", "212"},
-    {"RU", "0", "495"}, {"IT", "0", ""}, {"CH", "0", "44"}, {"AU", "0", "2"},
-};
-
-const char* const NUMBERS[] = {
-    "01 23 45 67 89", "0612345678",   "+49 (89) 123456", "089 1234567", "00441234567890", "+1 212 5551234",
-    "5551234",        "84951234567",  "+7 495 1234567",  "0441234567",  "0800123456",     "*12#",
-    "123",            "+33 (1) 23456789", "0212345678",  "12***34",     "0123x",          "+",
-};
-
-std::vector<std::string> convertAll(KesNumberingRules* rules, const std::vector<std::unique_ptr<KesDialRulesItem>>& sites) {
-    std::vector<std::string> results;
-    for (const auto& site : sites) {
-        for (const char* number : NUMBERS) {
-            results.push_back(rules->makeCanonicalNumber(site.get(), number, ""));
-            results.push_back(rules->makePhoneNumber(site.get(), number));
-            results.push_back(rules->makeGSMCanonicalNumber(site.get(), number, false));
-            KesClid* clid = rules->makeClid(site.get(), number);
-            results.push_back(clid == nullptr ? "null" : clid->getNumber() + "/" + clid->getOrigin()->name);
-            if (clid != nullptr)
-                clid->release();
-        }
+/// Lets every thread go at the same moment.
+class StartingGate {
+public:
+    void wait() {
+        std::unique_lock<std::mutex> lock(mutex);
+        if (++arrived == THREADS)
+            opened.notify_all();
+        else
+            opened.wait(lock, [this] { return arrived == THREADS; });
     }
+
+private:
+    std::mutex mutex;
+    std::condition_variable opened;
+    int arrived = 0;
+};
+
+/// One installation of every country of the shipped dialing rules, with the numbers its users type.
+struct Case {
+    std::string country;
+    std::vector<std::string> numbers;
+};
+
+std::vector<Case> everyCountry() {
+    std::vector<Case> cases;
+    for (const shipped::CountryExamples& row : shipped::exampleNumbers()) {
+        Case c{row.iso2, {row.nationalPrefix + row.fixed, "+" + row.callingCode + " " + row.fixed,
+                          row.internationalPrefix + "4989123456", "+49 89 123456", "+33 1 23 45 67 89"}};
+        if (!row.mobile.empty())
+            c.numbers.push_back(row.nationalPrefix + row.mobile);
+        cases.push_back(std::move(c));
+    }
+    return cases;
+}
+
+/// Canonical, GSM, dialled and caller identity forms of every number of `c`, as one text each.
+std::vector<std::string> convert(const Case& c) {
+    KesNumberingRules* rules = KesNumberingRules::getInstance();
+    KesDialRulesItem site(c.country, "0", 4, "", 0, "");
+    std::vector<std::string> results;
+    for (const std::string& number : c.numbers) {
+        results.push_back(rules->makeCanonicalNumber(&site, number, ""));
+        results.push_back(rules->makeGSMCanonicalNumber(&site, number, false));
+        results.push_back(rules->makePhoneNumber(&site, number));
+        KesClid* clid = rules->makeClid(&site, number);
+        results.push_back(clid == nullptr ? "null" : clid->getNumber() + "/" + clid->getOrigin()->name);
+        if (clid != nullptr)
+            clid->release();
+    }
+    return results;
+}
+
+void expectEverythingReleased() {
+    KesNumberingRules::resetInstance();
+    EXPECT_EQ(KesCNP::_count, 0);
+    EXPECT_EQ(KesDialable::_count, 0);
+    EXPECT_EQ(KesAreaCodeTree::_count, 0);
+    EXPECT_EQ(KesCountryRuleItem::_count, 0);
+    EXPECT_EQ(KesClid::_count, 0);
+}
+
+} // namespace
+
+// First in the program: nothing of the library exists before the threads start.
+TEST(ConcurrentConversions, ColdStartGivesEveryThreadTheSingleThreadedResults) {
+    const std::vector<Case> cases = everyCountry();
+    ASSERT_GT(cases.size(), 200u) << shipped::readError();
+    std::vector<std::vector<std::string>> expected;
+    for (const Case& c : cases)
+        expected.push_back(convert(c));
+    KesNumberingRules::resetInstance(); // cold again: no facade, store, plan or strategy
+
+    StartingGate gate;
+    std::atomic<int> mismatches{0};
+    std::vector<std::thread> threads;
+    for (int t = 0; t < THREADS; ++t)
+        threads.emplace_back([&, t] {
+            std::vector<std::size_t> order(cases.size());
+            for (std::size_t i = 0; i < order.size(); ++i)
+                order[i] = i;
+            std::shuffle(order.begin(), order.end(), std::mt19937(t));
+            gate.wait();
+            for (std::size_t i : order)
+                if (convert(cases[i]) != expected[i])
+                    ++mismatches;
+        });
+    for (std::thread& thread : threads)
+        thread.join();
+    EXPECT_EQ(mismatches.load(), 0);
+    expectEverythingReleased();
+}
+
+namespace {
+
+/// A copy of the shipped configuration in a directory of its own, with some files replaced.
+class ConfigurationCopy {
+public:
+    ConfigurationCopy(const std::string& name, const std::vector<std::pair<std::string, std::string>>& files)
+        : path(fs::temp_directory_path() / ("numbering-concurrency-" + std::to_string(getpid()) + "-" + name)) {
+        fs::create_directories(path);
+        for (const fs::directory_entry& entry : fs::directory_iterator(NUMBERING_SHIPPED_DATA))
+            fs::copy_file(entry.path(), path / entry.path().filename(), fs::copy_options::overwrite_existing);
+        for (const auto& file : files)
+            std::ofstream(path / file.first) << file.second;
+    }
+    ~ConfigurationCopy() { fs::remove_all(path); }
+    std::string directory() const { return path.string() + "/"; }
+
+private:
+    fs::path path;
+};
+
+/// Numbers whose every form differs between the two configurations below: the German area codes
+/// (plan file), the masks (store) and the French international prefix (dialing rules).
+struct Conversion {
+    const char* country;
+    const char* number;
+};
+const Conversion RELOADED[] = {
+    {"DE", "089123456"}, {"DE", "+49 891 23456"}, {"FR", "01 23 45 67 89"},
+    {"FR", "+49 (89) 123456"}, {"GB", "+33 1 23 45 67 89"}, {"US", "+49 891 234567"},
+};
+
+/// The canonical, GSM and dialled forms of one number: three conversions, each on one configuration.
+std::vector<std::string> convertOnce(const Conversion& c) {
+    KesNumberingRules* rules = KesNumberingRules::getInstance();
+    KesDialRulesItem site(c.country, "0", 4, "", 0, "");
+    return {rules->makeCanonicalNumber(&site, c.number, ""), rules->makeGSMCanonicalNumber(&site, c.number, false),
+            rules->makePhoneNumber(&site, c.number)};
+}
+
+/// The shipped dialing rules with another French international prefix.
+std::string dialingRulesWithFrenchPrefix(const std::string& prefix) {
+    std::ifstream shippedRules(std::string(NUMBERING_SHIPPED_DATA) + "dialingrules_default.properties");
+    std::string text((std::istreambuf_iterator<char>(shippedRules)), std::istreambuf_iterator<char>());
+    const std::string france = "FR=33:00:";
+    const std::string::size_type at = text.find(france);
+    return at == std::string::npos ? text : text.replace(at, france.size(), "FR=33:" + prefix + ":");
+}
+
+std::vector<std::vector<std::string>> convertAll() {
+    std::vector<std::vector<std::string>> results;
+    for (const Conversion& c : RELOADED)
+        results.push_back(convertOnce(c));
     return results;
 }
 
 } // namespace
 
-TEST(ConcurrentConversions, EveryThreadGetsTheSingleThreadedResults) {
-    testconfig::useStandardWorld();
-    testconfig::write("tz310cnp_49.properties", "Translate=1\nAC_0000=30\nAC_0001=89\nAC_0002=221\n");
-    testconfig::write("tz310cnp_61.properties", "Translate=1\nAC_0000=2\nAC_0001=3\n");
-    testconfig::write("dlr_cnp_mask.properties", "Mask_33_1 = +C (a) x xx xx xx xx\nMask_49_1 = +C (A) xxx xxxx\n");
-    testconfig::reload();
+TEST(ConcurrentConversions, ReloadsUnderLoadNeverMixTwoConfigurations) {
+    ConfigurationCopy a("a", {{"dlr_cnp_mask.properties", "Mask_33_1=+C (a) x xx xx xx xx\nMask_49_1=+C (A) x\n"
+                                                          "Mask_44_1=+C (A) x\nMask_1_1=+C (A) x\n"},
+                              {"tz310cnp_49.properties", "Translate=1\nAC_0000=30\nAC_0001=89\n"}});
+    ConfigurationCopy b("b", {{"dlr_cnp_mask.properties", "Mask_33_1=+C (a) xxxxxxxxx\nMask_49_1=+C (A) xx xx x\n"
+                                                          "Mask_44_1=+C (A) xx x\nMask_1_1=+C (A) xxx x\n"},
+                              {"tz310cnp_49.properties", "Translate=1\nAC_0000=30\nAC_0001=891\n"},
+                              {"dialingrules.properties", dialingRulesWithFrenchPrefix("000")}});
+    KesNumberingRules::reload(a.directory());
+    const auto inA = convertAll();
+    KesNumberingRules::reload(b.directory());
+    const auto inB = convertAll();
+    for (std::size_t i = 0; i < inA.size(); ++i) {
+        EXPECT_NE(inA[i], inB[i]) << RELOADED[i].number;
+        for (std::size_t form = 0; form < inA[i].size(); ++form)
+            EXPECT_FALSE(inA[i][form].empty() || inB[i][form].empty()) << RELOADED[i].number;
+    }
 
-    KesNumberingRules* rules = KesNumberingRules::getInstance();
-    std::vector<std::unique_ptr<KesDialRulesItem>> sites;
-    for (const Installation& site : INSTALLATIONS)
-        sites.emplace_back(new KesDialRulesItem(site.country, site.extPrefix, 4, site.areaCodes, 0, ""));
-    const std::vector<std::string> expected = convertAll(rules, sites); // warms every cache
-
-    const int threads = 8;
-    const int rounds = 20;
-    std::atomic<int> mismatches{0};
-    std::vector<std::thread> workers;
-    int clidsBefore = KesClid::_count;
-    for (int t = 0; t < threads; ++t)
-        workers.emplace_back([&] {
-            for (int round = 0; round < rounds; ++round)
-                if (convertAll(rules, sites) != expected)
-                    ++mismatches;
+    std::atomic<bool> reloading{true};
+    std::atomic<int> conversions{0};
+    std::vector<std::string> unexpected;
+    std::mutex unexpectedMutex;
+    std::vector<std::thread> threads;
+    for (int t = 0; t < THREADS; ++t)
+        threads.emplace_back([&, t] {
+            const std::size_t count = sizeof RELOADED / sizeof RELOADED[0];
+            for (std::size_t i = static_cast<std::size_t>(t) % count; reloading.load(); i = (i + 1) % count) {
+                // A pause now and then leaves the reloading thread some of the two cores.
+                if (i == 0)
+                    std::this_thread::sleep_for(std::chrono::microseconds(100));
+                const std::vector<std::string> forms = convertOnce(RELOADED[i]);
+                ++conversions;
+                for (std::size_t form = 0; form < forms.size(); ++form)
+                    if (forms[form] != inA[i][form] && forms[form] != inB[i][form]) {
+                        std::lock_guard<std::mutex> lock(unexpectedMutex);
+                        unexpected.push_back(forms[form]);
+                    }
+            }
         });
-    for (std::thread& worker : workers)
-        worker.join();
+    std::thread reloader([&] {
+        for (int n = 0; n < 100; ++n)
+            KesNumberingRules::reload(n % 2 == 0 ? a.directory() : b.directory());
+        reloading = false;
+    });
+    reloader.join();
+    for (std::thread& thread : threads)
+        thread.join();
 
-    EXPECT_EQ(mismatches.load(), 0);
-    EXPECT_EQ(KesClid::_count, clidsBefore) << "every caller identity was released";
-    sites.clear();
-    testconfig::reload();
+    EXPECT_TRUE(unexpected.empty()) << unexpected.size() << " mixed results, the first: " << unexpected.front();
+    EXPECT_GT(conversions.load(), THREADS);
+    std::cout << conversions.load() << " numbers converted during 100 reloads\n";
+    EXPECT_EQ(convertAll(), inB) << "the last reload read the second directory";
+    KesNumberingRules::reload(std::string()); // back to the directory of the start
+    expectEverythingReleased();
 }
