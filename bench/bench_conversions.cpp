@@ -13,9 +13,11 @@
 
 #include <benchmark/benchmark.h>
 
+#include <atomic>
 #include <cstdio>
 #include <exception>
 #include <string>
+#include <thread>
 #include <vector>
 
 using namespace numbering;
@@ -153,6 +155,41 @@ void ColdStart(benchmark::State& state) {
     warmUp(); // the benchmarks that follow expect warm caches
 }
 
+/// A reload of the shipped configuration while nothing converts: the three store files read, the
+/// previous configuration freed (its plans included, which the next conversions build again).
+void Reload(benchmark::State& state) {
+    for (auto _ : state)
+        KesNumberingRules::reload();
+    warmUp();
+}
+
+/// Canonical conversions on 8 threads while another thread reloads back to back, as a host re-reading
+/// its files under traffic: every conversion pins a configuration, and every reload waits for the
+/// conversions on the old one and frees it.
+void MakeCanonicalNumberWhileReloading(benchmark::State& state) {
+    static std::atomic<bool> reloading;
+    static std::atomic<int> reloads;
+    static std::thread reloader;
+    if (state.thread_index() == 0) {
+        reloading = true;
+        reloads = 0;
+        reloader = std::thread([] {
+            while (reloading) {
+                KesNumberingRules::reload();
+                ++reloads;
+            }
+        });
+    }
+    overConversions(state, workload().typed, [](const Conversion& c) {
+        benchmark::DoNotOptimize(facade()->makeCanonicalNumber(c.rules, c.number, ""));
+    });
+    if (state.thread_index() == 0) {
+        reloading = false;
+        reloader.join();
+        state.counters["reloads"] = static_cast<double>(reloads.load());
+    }
+}
+
 // The first number of threads is the reference for the second.
 BENCHMARK(MakeCanonicalNumber)->Threads(1)->Threads(2)->UseRealTime();
 BENCHMARK(MakeGSMCanonicalNumber)->Threads(1)->Threads(2)->UseRealTime();
@@ -161,6 +198,8 @@ BENCHMARK(MakeClid)->Threads(1)->Threads(2)->UseRealTime();
 BENCHMARK(FormatCanonicalNumber)->Threads(1)->Threads(2)->UseRealTime();
 BENCHMARK(MakeDialableNumber)->Threads(1)->Threads(2)->UseRealTime();
 BENCHMARK(ColdStart)->Unit(benchmark::kMillisecond)->Iterations(20);
+BENCHMARK(Reload)->Unit(benchmark::kMicrosecond);
+BENCHMARK(MakeCanonicalNumberWhileReloading)->Threads(8)->UseRealTime();
 
 } // namespace
 
