@@ -11,7 +11,6 @@
 #include <atomic>
 #include <cstddef>
 #include <cstdint>
-#include <cstring>
 #include <deque>
 #include <memory>
 #include <string>
@@ -37,7 +36,9 @@ public:
             Entry* entry = current->slots[i].load(std::memory_order_acquire);
             if (entry == nullptr)
                 return nullptr;
-            if (entry->hash == hash && entry->key == key)
+            // Keys of up to eight characters are told apart by their head, without a comparison call.
+            if (entry->hash == hash && entry->head == headOf(key) && entry->key.size() == key.size() &&
+                (key.size() <= 8 || entry->key.compare(8, std::string::npos, key.substr(8)) == 0))
                 return &entry->value;
         }
     }
@@ -47,7 +48,7 @@ public:
     Value& insert(std::string_view key, Value value) {
         if (Value* found = find(key))
             return *found;
-        Entry& entry = entries.emplace_back(Entry{std::string(key), std::move(value), hashOf(key)});
+        Entry& entry = entries.emplace_back(Entry{std::string(key), std::move(value), hashOf(key), headOf(key)});
         const Table* current = table.load(std::memory_order_relaxed);
         if (current == nullptr || entries.size() * 2 > current->mask + 1)
             current = grow();
@@ -69,6 +70,7 @@ private:
         std::string key;
         Value value;
         std::uint64_t hash;
+        std::uint64_t head; // the first eight characters, zero-filled
     };
     struct Table {
         explicit Table(std::size_t size) : mask(size - 1), slots(new std::atomic<Entry*>[size]) {
@@ -79,20 +81,24 @@ private:
         std::unique_ptr<std::atomic<Entry*>[]> slots;
     };
 
+    /// Up to eight characters from `from`, packed into the low bytes (no library call for a few bytes).
+    static std::uint64_t packed(std::string_view key, std::size_t from) {
+        std::uint64_t word = 0;
+        const std::size_t end = key.size() - from < 8 ? key.size() : from + 8;
+        for (std::size_t i = from; i < end; ++i)
+            word |= static_cast<std::uint64_t>(static_cast<unsigned char>(key[i])) << (8 * (i - from));
+        return word;
+    }
+
+    static std::uint64_t headOf(std::string_view key) { return packed(key, 0); }
+
     static std::uint64_t hashOf(std::string_view key) {
         std::uint64_t hash = 0x9E3779B97F4A7C15ull ^ key.size();
-        std::size_t i = 0;
-        for (; i + 8 <= key.size(); i += 8) {
-            std::uint64_t word;
-            std::memcpy(&word, key.data() + i, 8);
-            hash = (hash ^ word) * 0xFF51AFD7ED558CCDull;
+        for (std::size_t i = 0; i < key.size(); i += 8) {
+            hash = (hash ^ packed(key, i)) * 0xFF51AFD7ED558CCDull;
             hash ^= hash >> 32;
         }
-        std::uint64_t tail = 0;
-        if (i < key.size())
-            std::memcpy(&tail, key.data() + i, key.size() - i);
-        hash = (hash ^ tail) * 0xC4CEB9FE1A85EC53ull;
-        return hash ^ (hash >> 29);
+        return hash;
     }
 
     static void place(const Table& into, Entry* entry, std::memory_order order) {

@@ -276,7 +276,6 @@ bool prefixNeeded(KesDialRulesItem* rules, const std::string& number) {
 
 std::string KesNumberingRules::makeCanonicalNumber(KesDialRulesItem* myKesDialRulesItem,
                                                    std::string strPhoneNumber, std::string strPattern) {
-    PinnedConfiguration pin;
     return makeCanonicalNumber(myKesDialRulesItem, std::move(strPhoneNumber), std::move(strPattern), false);
 }
 
