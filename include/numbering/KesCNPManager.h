@@ -1,6 +1,7 @@
 #ifndef NUMBERING_KESCNPMANAGER_H
 #define NUMBERING_KESCNPMANAGER_H
 
+#include "numbering/Export.h"
 #include "numbering/KesCNP.h"
 
 #include <Poco/AutoPtr.h>
@@ -20,7 +21,7 @@ template <class Value> class ShortKeyIndex;
 /// The process-wide cache of country plans, keyed by the upper-case country code ("DE").
 /// getCNP runs entirely under the manager's mutex, so each plan (and its file reading) is built
 /// once. A country without a plan is remembered and never retried until resetInstance().
-class KesCNPManager {
+class NUMBERING_API KesCNPManager {
 public:
     static KesCNPManager* getInstance();
     static void resetInstance();

@@ -1,6 +1,7 @@
 #ifndef NUMBERING_KESDIALABLEMANAGER_H
 #define NUMBERING_KESDIALABLEMANAGER_H
 
+#include "numbering/Export.h"
 #include "numbering/KesDialable.h"
 
 #include <Poco/AutoPtr.h>
@@ -17,7 +18,7 @@ template <class Value> class ShortKeyIndex;
 
 /// The process-wide cache of dialing strategies, keyed by calling code ("33"). Takes no lock: the
 /// host fills it (one conversion per country) before concurrent use; afterwards it is only read.
-class KesDialableManager {
+class NUMBERING_API KesDialableManager {
 public:
     static KesDialableManager* getInstance();
     static void resetInstance();

@@ -1,6 +1,7 @@
 #ifndef NUMBERING_KESNUMBERINGCONFIG_H
 #define NUMBERING_KESNUMBERINGCONFIG_H
 
+#include "numbering/Export.h"
 #include "numbering/KesCountryRuleItem.h"
 
 #include <Poco/AutoPtr.h>
@@ -20,7 +21,7 @@ namespace numbering {
 /// calling code, prefixes, rules, name), the display masks and the specific-format switches.
 /// Loaded once by the first getInstance(); resetInstance() is the only way to reload.
 /// Not synchronised: the host creates it before concurrent use and resets it only when idle.
-class KesNumberingConfig {
+class NUMBERING_API KesNumberingConfig {
 public:
     static KesNumberingConfig* getInstance();
     static void resetInstance();

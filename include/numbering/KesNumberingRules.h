@@ -1,6 +1,8 @@
 #ifndef NUMBERING_KESNUMBERINGRULES_H
 #define NUMBERING_KESNUMBERINGRULES_H
 
+#include "numbering/Export.h"
+
 #include <string>
 #include <string_view>
 #include <vector>
@@ -21,7 +23,7 @@ class KesNumberingConfig;
 /// A process-wide singleton without instance data. The host creates it before converting from
 /// several threads and resets it only when idle (nothing here is locked). The conversions are
 /// virtual and call each other through the virtual table, so a host subclass can override them.
-class KesNumberingRules {
+class NUMBERING_API KesNumberingRules {
 public:
     static KesNumberingRules* getInstance();
     /// Tears down the plan cache, the strategy cache, the configuration store and the facade, in
