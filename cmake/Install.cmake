@@ -28,7 +28,6 @@ configure_file(cmake/numbering.pc.in ${PROJECT_BINARY_DIR}/numbering.pc @ONLY)
 install(FILES ${PROJECT_BINARY_DIR}/numbering.pc DESTINATION ${CMAKE_INSTALL_LIBDIR}/pkgconfig
   COMPONENT development)
 
-# Top-level *.properties only: data/facts/ is the generator's input, not configuration.
 file(GLOB NUMBERING_SHIPPED_CONFIGURATION CONFIGURE_DEPENDS ${PROJECT_SOURCE_DIR}/data/*.properties)
 install(FILES ${NUMBERING_SHIPPED_CONFIGURATION} DESTINATION ${CMAKE_INSTALL_DATADIR}/numbering COMPONENT tool)
 

@@ -1,7 +1,7 @@
 #!/usr/bin/env python3
 """Writes the shipped default configuration of libNumbering (the files in data/).
 
-Input: the numbering facts directory, data/facts/ by default (tab-separated files: countries.tsv,
+Input: the numbering facts directory, facts/ by default (tab-separated files: countries.tsv,
 formats.tsv, formats_inherited.tsv, areacodes/<cc>.tsv, areacodes/<cc>-nongeo.tsv,
 areacodes/57-carriers.tsv; its README.md names their sources).
 Output: the *_default.properties files plus tz310cnp_57.properties.
@@ -26,7 +26,7 @@ import unicodedata
 from pathlib import Path
 
 PROJECT_ROOT = Path(__file__).resolve().parent.parent
-DEFAULT_FACTS = PROJECT_ROOT / "data" / "facts"
+DEFAULT_FACTS = PROJECT_ROOT / "facts"
 DEFAULT_OUT = PROJECT_ROOT / "data"
 
 GENERATOR = "tools/generate_config.py"

@@ -3,7 +3,7 @@
 
 The committed files are read the way the library reads them (property lines, rule fields,
 area code tree, mask walk, canonical decomposition), so a file that would make the library
-misbehave fails here. The generator runs on the numbering facts of data/facts/.
+misbehave fails here. The generator runs on the numbering facts of facts/.
 
     python3 tools/test_generate_config.py [-v]
 """
