@@ -1,15 +1,16 @@
-# Installation of the library, its headers, the command-line tool and the shipped configuration,
-# with an exported CMake package, a pkg-config file and a Debian package.
-include(GNUInstallDirs)
+# Installation in three components: the library (runtime), what a program needs to build against
+# it (development: headers, CMake package, pkg-config file) and the command-line tool with the
+# shipped configuration (tool, installed by tools/numbering/). Every file is placed relative to
+# the prefix, so an installed tree can be moved as a whole.
 include(CMakePackageConfigHelpers)
 
 set(NUMBERING_INSTALL_CMAKEDIR ${CMAKE_INSTALL_LIBDIR}/cmake/Numbering)
-set(NUMBERING_INSTALL_DATADIR ${CMAKE_INSTALL_DATADIR}/numbering)
 
 install(TARGETS Numbering EXPORT NumberingTargets
   LIBRARY DESTINATION ${CMAKE_INSTALL_LIBDIR} COMPONENT runtime NAMELINK_COMPONENT development
   INCLUDES DESTINATION ${CMAKE_INSTALL_INCLUDEDIR})
-install(DIRECTORY include/numbering DESTINATION ${CMAKE_INSTALL_INCLUDEDIR} COMPONENT development)
+install(DIRECTORY include/numbering ${NUMBERING_GENERATED_INCLUDE_DIR}/numbering
+  DESTINATION ${CMAKE_INSTALL_INCLUDEDIR} COMPONENT development)
 install(EXPORT NumberingTargets NAMESPACE Numbering:: DESTINATION ${NUMBERING_INSTALL_CMAKEDIR}
   COMPONENT development)
 
@@ -20,19 +21,16 @@ write_basic_package_version_file(${PROJECT_BINARY_DIR}/NumberingConfigVersion.cm
 install(FILES ${PROJECT_BINARY_DIR}/NumberingConfig.cmake ${PROJECT_BINARY_DIR}/NumberingConfigVersion.cmake
   DESTINATION ${NUMBERING_INSTALL_CMAKEDIR} COMPONENT development)
 
+# The pkg-config file finds the prefix from its own place: ${pcfiledir} up to the prefix.
+file(RELATIVE_PATH NUMBERING_PC_TO_PREFIX ${CMAKE_INSTALL_FULL_LIBDIR}/pkgconfig ${CMAKE_INSTALL_PREFIX})
+string(REGEX REPLACE "/$" "" NUMBERING_PC_TO_PREFIX "${NUMBERING_PC_TO_PREFIX}")
 configure_file(cmake/numbering.pc.in ${PROJECT_BINARY_DIR}/numbering.pc @ONLY)
 install(FILES ${PROJECT_BINARY_DIR}/numbering.pc DESTINATION ${CMAKE_INSTALL_LIBDIR}/pkgconfig
   COMPONENT development)
 
 file(GLOB NUMBERING_SHIPPED_CONFIGURATION CONFIGURE_DEPENDS ${PROJECT_SOURCE_DIR}/data/*.properties)
-install(FILES ${NUMBERING_SHIPPED_CONFIGURATION} DESTINATION ${NUMBERING_INSTALL_DATADIR} COMPONENT runtime)
+install(FILES ${NUMBERING_SHIPPED_CONFIGURATION} DESTINATION ${CMAKE_INSTALL_DATADIR}/numbering COMPONENT tool)
 
-set(CPACK_PACKAGE_NAME libnumbering)
-set(CPACK_PACKAGE_VENDOR "libNumbering developers")
-set(CPACK_PACKAGE_CONTACT "libNumbering developers <numbering@localhost>")
-set(CPACK_PACKAGE_DESCRIPTION_SUMMARY "${PROJECT_DESCRIPTION}")
-set(CPACK_DEBIAN_FILE_NAME DEB-DEFAULT)
-set(CPACK_DEBIAN_PACKAGE_SECTION libs)
-set(CPACK_DEBIAN_PACKAGE_DEPENDS "libpocofoundation80, libpocoutil80, libstdc++6")
-set(CPACK_GENERATOR DEB)
-include(CPack)
+install(FILES LICENSE NOTICE CHANGELOG.md DESTINATION ${CMAKE_INSTALL_DOCDIR} COMPONENT documentation)
+
+include(cmake/DebianPackages.cmake)

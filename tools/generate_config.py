@@ -1,8 +1,9 @@
 #!/usr/bin/env python3
 """Writes the shipped default configuration of libNumbering (the files in data/).
 
-Input: the numbering facts directory (tab-separated files: countries.tsv, formats.tsv,
-formats_inherited.tsv, areacodes/<cc>.tsv, areacodes/<cc>-nongeo.tsv, areacodes/57-carriers.tsv).
+Input: the numbering facts directory, facts/ by default (tab-separated files: countries.tsv,
+formats.tsv, formats_inherited.tsv, areacodes/<cc>.tsv, areacodes/<cc>-nongeo.tsv,
+areacodes/57-carriers.tsv; its README.md names their sources).
 Output: the *_default.properties files plus tz310cnp_57.properties.
 
     python3 tools/generate_config.py                 # regenerate data/
@@ -25,7 +26,7 @@ import unicodedata
 from pathlib import Path
 
 PROJECT_ROOT = Path(__file__).resolve().parent.parent
-DEFAULT_FACTS = PROJECT_ROOT.parent / "shared" / "data"
+DEFAULT_FACTS = PROJECT_ROOT / "facts"
 DEFAULT_OUT = PROJECT_ROOT / "data"
 
 GENERATOR = "tools/generate_config.py"
@@ -574,9 +575,6 @@ def write_files(files, out_dir):
             handle.write(files[name])
 
 
-# Exit status when the facts directory is absent (CTest can map it to "skipped").
-FACTS_MISSING = 77
-
 GENERATED_NAME = re.compile(r"^((dialingrules|dlr_cnp_mask|specific_format_activation|tz310cnp_\d+)"
                             r"(_default)?\.properties|example_numbers\.tsv)$")
 
@@ -609,7 +607,7 @@ def main(argv=None):
     args = parser.parse_args(argv)
     if not (Path(args.facts) / "countries.tsv").is_file():
         print("numbering facts not found in " + args.facts, file=sys.stderr)
-        return FACTS_MISSING
+        return 2
     files = generate(args.facts)
     if args.check:
         problems = check(files, args.out)

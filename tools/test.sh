@@ -1,12 +1,14 @@
 #!/usr/bin/env bash
 # Sets up a fresh Debian 12 machine (as root) with what the build needs, then builds and runs every
-# test of the library three ways: the normal build, the whole suite under AddressSanitizer and UBSan
-# (with a short run of each fuzzer), and the concurrency test under ThreadSanitizer.
+# test of the library three ways: the normal build (with the checks of what is shipped: exported
+# symbols, prefix install, Debian packages under lintian, generated configuration), the whole suite
+# under AddressSanitizer and UBSan (with a short run of each fuzzer), and the concurrency test under
+# ThreadSanitizer.
 set -euo pipefail
 cd "$(dirname "$0")/.."
 
 bash tools/install-packages.sh cmake make g++ clang libclang-rt-14-dev pkg-config python3 \
-  libpoco-dev libgtest-dev libgmock-dev libbenchmark-dev
+  libpoco-dev libgtest-dev libgmock-dev libbenchmark-dev dpkg-dev file lintian
 
 jobs=$(nproc)
 fuzz_seconds=${NUMBERING_FUZZ_SECONDS:-30}

@@ -1,6 +1,7 @@
 #ifndef NUMBERING_KESAREACODEPLAN_H
 #define NUMBERING_KESAREACODEPLAN_H
 
+#include "numbering/Export.h"
 #include "numbering/KesAreaCodeTree.h"
 #include "numbering/KesCNP.h"
 
@@ -18,7 +19,7 @@ namespace numbering {
 /// ("tz310cnp_<calling code>.properties", else its "_default" companion): it reads the file once,
 /// in the constructor, and holds the tree; the two conversion families that most of these plans
 /// share live here too, parameterised by what differs between countries.
-class KesAreaCodePlan : public KesCNP {
+class NUMBERING_API KesAreaCodePlan : public KesCNP {
 public:
     /// What tells one plan's file reading from another's.
     struct PlanFile {

@@ -1,6 +1,7 @@
 #ifndef NUMBERING_KESAREACODETREE_H
 #define NUMBERING_KESAREACODETREE_H
 
+#include "numbering/Export.h"
 #include "numbering/KesCharsTree.h"
 #include "numbering/ReferenceCount.h"
 
@@ -22,7 +23,7 @@ namespace numbering {
 /// keeps its digits in two flat tables instead of one heap object with a hash map per node: a
 /// country's few thousand codes take a few ten kilobytes, load without an allocation per digit, and
 /// a look-up is one array step per digit.
-class KesAreaCodeTree {
+class NUMBERING_API KesAreaCodeTree {
 public:
     KesAreaCodeTree();
     KesAreaCodeTree(const KesAreaCodeTree&) = delete;

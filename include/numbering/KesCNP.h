@@ -1,6 +1,7 @@
 #ifndef NUMBERING_KESCNP_H
 #define NUMBERING_KESCNP_H
 
+#include "numbering/Export.h"
 #include "numbering/ReferenceCount.h"
 
 #include <string>
@@ -12,7 +13,7 @@ class KesDialRulesItem;
 /// A country numbering plan: knows which leading digits of a national number form an area code
 /// and writes national numbers in canonical form. A plan never fails: a number it cannot place
 /// comes back unchanged. Plans are made by KesCNPFactory and cached by KesCNPManager.
-class KesCNP {
+class NUMBERING_API KesCNP {
 public:
     KesCNP() = default;
     virtual ~KesCNP();

@@ -1,6 +1,7 @@
 #ifndef NUMBERING_KESCNPMANAGER_H
 #define NUMBERING_KESCNPMANAGER_H
 
+#include "numbering/Export.h"
 #include "numbering/KesCNP.h"
 
 #include <Poco/AutoPtr.h>
@@ -20,7 +21,7 @@ template <class Value> class TextKeyMap;
 /// configuration. A cached plan, or a country known to have none, is found without a lock; the
 /// first look-up of a country builds its plan (and reads its file) once, under the manager's mutex.
 /// A country without a plan is remembered and never retried until the configuration is reloaded.
-class KesCNPManager {
+class NUMBERING_API KesCNPManager {
 public:
     /// The cache of the configuration in use (see KesNumberingConfig::getInstance()); valid until
     /// the first reload after the call has completed.

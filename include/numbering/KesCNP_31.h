@@ -1,6 +1,7 @@
 #ifndef NUMBERING_KESCNP_31_H
 #define NUMBERING_KESCNP_31_H
 
+#include "numbering/Export.h"
 #include "numbering/KesAreaCodePlan.h"
 
 #include <string>
@@ -11,7 +12,7 @@ namespace numbering {
 
 /// The numbering plan of calling code 31: national numbers split at a known area code, else written
 /// with the national prefix "(0)"; numbers without national prefix completed with the own area code.
-class KesCNP_31 : public KesAreaCodePlan {
+class NUMBERING_API KesCNP_31 : public KesAreaCodePlan {
 public:
     KesCNP_31();
     ~KesCNP_31() override;

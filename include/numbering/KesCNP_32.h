@@ -1,6 +1,7 @@
 #ifndef NUMBERING_KESCNP_32_H
 #define NUMBERING_KESCNP_32_H
 
+#include "numbering/Export.h"
 #include "numbering/KesAreaCodePlan.h"
 
 #include <string>
@@ -11,7 +12,7 @@ namespace numbering {
 
 /// The numbering plan of calling code 32: national numbers of nine digits or more split at a known
 /// area code, else written with the national prefix "(0)"; other numbers are left as they are.
-class KesCNP_32 : public KesAreaCodePlan {
+class NUMBERING_API KesCNP_32 : public KesAreaCodePlan {
 public:
     KesCNP_32();
     ~KesCNP_32() override;

@@ -1,6 +1,7 @@
 #ifndef NUMBERING_KESCNP_353_H
 #define NUMBERING_KESCNP_353_H
 
+#include "numbering/Export.h"
 #include "numbering/KesAreaCodePlan.h"
 
 #include <string>
@@ -11,7 +12,7 @@ namespace numbering {
 
 /// The numbering plan of calling code 353: national numbers split at a known area code, else at their
 /// first two digits; numbers without national prefix completed with the own area code.
-class KesCNP_353 : public KesAreaCodePlan {
+class NUMBERING_API KesCNP_353 : public KesAreaCodePlan {
 public:
     KesCNP_353();
     ~KesCNP_353() override;

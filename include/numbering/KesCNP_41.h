@@ -1,6 +1,7 @@
 #ifndef NUMBERING_KESCNP_41_H
 #define NUMBERING_KESCNP_41_H
 
+#include "numbering/Export.h"
 #include "numbering/KesCNP.h"
 
 class Logger;
@@ -9,7 +10,7 @@ namespace numbering {
 
 /// The numbering plan of calling code 41. Reads no file: national numbers are recognised by their
 /// length (9 or 10 characters, directly or behind the outside-line prefix) and a few prefixes.
-class KesCNP_41 : public KesCNP {
+class NUMBERING_API KesCNP_41 : public KesCNP {
 public:
     KesCNP_41();
     ~KesCNP_41() override;

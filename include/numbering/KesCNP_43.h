@@ -1,6 +1,7 @@
 #ifndef NUMBERING_KESCNP_43_H
 #define NUMBERING_KESCNP_43_H
 
+#include "numbering/Export.h"
 #include "numbering/KesAreaCodePlan.h"
 
 #include <string>
@@ -11,7 +12,7 @@ namespace numbering {
 
 /// The numbering plan of calling code 43: "+43 (area code) subscriber", the area codes from the plan
 /// file. A national number whose area code is unknown is taken to begin with a four-digit one.
-class KesCNP_43 : public KesAreaCodePlan {
+class NUMBERING_API KesCNP_43 : public KesAreaCodePlan {
 public:
     KesCNP_43();
     ~KesCNP_43() override;

@@ -1,6 +1,7 @@
 #ifndef NUMBERING_KESCNP_44_H
 #define NUMBERING_KESCNP_44_H
 
+#include "numbering/Export.h"
 #include "numbering/KesAreaCodePlan.h"
 
 #include <string>
@@ -11,7 +12,7 @@ namespace numbering {
 
 /// The numbering plan of calling code 44: national numbers split at a known area code, else written
 /// with the national prefix "(0)"; local numbers (first digit 2 to 9) completed with the own area code.
-class KesCNP_44 : public KesAreaCodePlan {
+class NUMBERING_API KesCNP_44 : public KesAreaCodePlan {
 public:
     KesCNP_44();
     ~KesCNP_44() override;

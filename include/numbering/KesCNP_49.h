@@ -1,6 +1,7 @@
 #ifndef NUMBERING_KESCNP_49_H
 #define NUMBERING_KESCNP_49_H
 
+#include "numbering/Export.h"
 #include "numbering/KesAreaCodePlan.h"
 
 #include <string>
@@ -11,7 +12,7 @@ namespace numbering {
 
 /// The numbering plan of calling code 49: "+49 (area code) subscriber", the area codes from the plan
 /// file. A national number whose area code is unknown is put behind the installation's own area code.
-class KesCNP_49 : public KesAreaCodePlan {
+class NUMBERING_API KesCNP_49 : public KesAreaCodePlan {
 public:
     KesCNP_49();
     ~KesCNP_49() override;

@@ -1,6 +1,7 @@
 #ifndef NUMBERING_KESCNP_52_H
 #define NUMBERING_KESCNP_52_H
 
+#include "numbering/Export.h"
 #include "numbering/KesAreaCodePlan.h"
 
 #include <string>
@@ -15,7 +16,7 @@ namespace numbering {
 /// area code and seven. Fixed numbers become "+52 (area) number"; mobiles carry the mobile marker
 /// "1" in the parentheses, "+52 (1area) number", which the Mexican dialing strategy turns back into
 /// 044 (own area) or 045 (another area). Numbers of any other shape come back unchanged.
-class KesCNP_52 : public KesAreaCodePlan {
+class NUMBERING_API KesCNP_52 : public KesAreaCodePlan {
 public:
     KesCNP_52();
     ~KesCNP_52() override;

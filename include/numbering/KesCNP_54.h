@@ -1,6 +1,7 @@
 #ifndef NUMBERING_KESCNP_54_H
 #define NUMBERING_KESCNP_54_H
 
+#include "numbering/Export.h"
 #include "numbering/KesAreaCodePlan.h"
 
 #include <string>
@@ -13,7 +14,7 @@ namespace numbering {
 /// the area code and the subscriber number when dialled nationally, "9" between the country code
 /// and the area code in international form ("+54 9 (11) 43215678"). StripNbr splits a number into
 /// area code, subscriber number and mobile flag; the Argentine dialing strategy uses the same split.
-class KesCNP_54 : public KesAreaCodePlan {
+class NUMBERING_API KesCNP_54 : public KesAreaCodePlan {
 public:
     /// The split of a number. StripNbr makes it on the heap; the caller deletes it.
     struct StrippedNumber {

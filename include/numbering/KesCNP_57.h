@@ -1,6 +1,7 @@
 #ifndef NUMBERING_KESCNP_57_H
 #define NUMBERING_KESCNP_57_H
 
+#include "numbering/Export.h"
 #include "numbering/KesCNP.h"
 
 #include <string>
@@ -13,7 +14,7 @@ namespace numbering {
 /// installation's area code; national numbers of ten or more characters begin with the national
 /// prefix 0 and a carrier selection, and the area code (or, after "03", the three-digit mobile
 /// prefix) stands at a fixed position.
-class KesCNP_57 : public KesCNP {
+class NUMBERING_API KesCNP_57 : public KesCNP {
 public:
     KesCNP_57();
     ~KesCNP_57() override;

@@ -1,6 +1,7 @@
 #ifndef NUMBERING_KESCNP_61_H
 #define NUMBERING_KESCNP_61_H
 
+#include "numbering/Export.h"
 #include "numbering/KesAreaCodePlan.h"
 
 #include <string>
@@ -12,7 +13,7 @@ namespace numbering {
 /// The numbering plan of calling code 61, decided by exact length: ten-digit national numbers
 /// split at a known area code, the 1300, 1800 and 13 services written with their prefix outside
 /// the parentheses ("+61 1300 123456"), eight-digit local numbers completed with the own area code.
-class KesCNP_61 : public KesAreaCodePlan {
+class NUMBERING_API KesCNP_61 : public KesAreaCodePlan {
 public:
     KesCNP_61();
     ~KesCNP_61() override;

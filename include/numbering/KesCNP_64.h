@@ -1,6 +1,7 @@
 #ifndef NUMBERING_KESCNP_64_H
 #define NUMBERING_KESCNP_64_H
 
+#include "numbering/Export.h"
 #include "numbering/KesCNP.h"
 
 class Logger;
@@ -12,7 +13,7 @@ namespace numbering {
 /// completed with the installation's one-digit area code. The code after the national prefix
 /// goes in the parentheses: 091234567 is +64 (9) 1234567, 0211234567 is +64 (21) 1234567,
 /// 0800123456 is +64 (800) 123456. Anything else comes back unchanged.
-class KesCNP_64 : public KesCNP {
+class NUMBERING_API KesCNP_64 : public KesCNP {
 public:
     KesCNP_64();
     ~KesCNP_64() override;

@@ -1,6 +1,7 @@
 #ifndef NUMBERING_KESCNP_7_H
 #define NUMBERING_KESCNP_7_H
 
+#include "numbering/Export.h"
 #include "numbering/KesCNP.h"
 
 class Logger;
@@ -11,7 +12,7 @@ namespace numbering {
 /// The canonical form drops the prefix and puts the three-digit area code in parentheses:
 /// 84951234567 is +7 (495) 1234567.
 /// Reads no file; the national prefix is the long-distance prefix of the dialing rules.
-class KesCNP_7 : public KesCNP {
+class NUMBERING_API KesCNP_7 : public KesCNP {
 public:
     KesCNP_7();
     ~KesCNP_7() override;

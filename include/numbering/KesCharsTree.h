@@ -1,6 +1,7 @@
 #ifndef NUMBERING_KESCHARSTREE_H
 #define NUMBERING_KESCHARSTREE_H
 
+#include "numbering/Export.h"
 #include "numbering/KesCharsTreeElement.h"
 
 #include <string>
@@ -11,7 +12,7 @@ namespace numbering {
 
 /// A prefix tree of character strings, one node per character, with a flag where a stored code
 /// ends. Built once, then only read.
-class KesCharsTree {
+class NUMBERING_API KesCharsTree {
 public:
     KesCharsTree();
     /// Copies are deep: the two trees share no node.

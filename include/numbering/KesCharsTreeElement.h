@@ -1,6 +1,7 @@
 #ifndef NUMBERING_KESCHARSTREEELEMENT_H
 #define NUMBERING_KESCHARSTREEELEMENT_H
 
+#include "numbering/Export.h"
 #include "numbering/ReferenceCount.h"
 
 #include <Poco/HashMap.h>
@@ -14,7 +15,7 @@ namespace numbering {
 /// One node of a KesCharsTree: the character it stands for, whether a stored code ends here, and
 /// its children, at most one per character. A node owns its children and releases them when it
 /// goes; the root holds the character 0.
-class KesCharsTreeElement {
+class NUMBERING_API KesCharsTreeElement {
 public:
     using Children = Poco::HashMap<char, KesCharsTreeElement*>;
 

@@ -1,6 +1,7 @@
 #ifndef NUMBERING_KESCLID_H
 #define NUMBERING_KESCLID_H
 
+#include "numbering/Export.h"
 #include "numbering/KesEnumOrigin.h"
 #include "numbering/ReferenceCount.h"
 
@@ -10,7 +11,7 @@ namespace numbering {
 
 /// A caller line identity: the number to present and where the caller stands.
 /// Reference counted; whoever receives one from the library owns its first reference.
-class KesClid {
+class NUMBERING_API KesClid {
 public:
     KesClid();
     KesClid(std::string number, KesEnumOrigin* origin);

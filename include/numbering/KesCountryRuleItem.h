@@ -1,6 +1,7 @@
 #ifndef NUMBERING_KESCOUNTRYRULEITEM_H
 #define NUMBERING_KESCOUNTRYRULEITEM_H
 
+#include "numbering/Export.h"
 #include "numbering/ReferenceCount.h"
 
 #include <string>
@@ -10,7 +11,7 @@ namespace numbering {
 /// One country's dialling facts, one row of the dialing rules file. Immutable once built.
 /// The long-distance and local prefixes are derived from their rules: what stands before the
 /// first "F" of the rule, else before its first "I", else nothing.
-class KesCountryRuleItem {
+class NUMBERING_API KesCountryRuleItem {
 public:
     KesCountryRuleItem(std::string countryNumber, std::string internatPfx, std::string internatRule,
                        std::string longDistRule, std::string localRule, std::string countryName);

@@ -1,6 +1,8 @@
 #ifndef NUMBERING_KESDIALRULESITEM_H
 #define NUMBERING_KESDIALRULESITEM_H
 
+#include "numbering/Export.h"
+
 #include <string>
 #include <vector>
 
@@ -11,7 +13,7 @@ namespace numbering {
 /// The installation on whose behalf numbers are converted: its country, the prefix that seizes an
 /// outside line, its own area codes, the length below which a number is internal, and the leading
 /// digits of the numbers dialled without the outside-line prefix. Built and owned by the host.
-class KesDialRulesItem {
+class NUMBERING_API KesDialRulesItem {
 public:
     /// Country "FR" (not validated), everything else empty or 0.
     KesDialRulesItem();

@@ -1,6 +1,7 @@
 #ifndef NUMBERING_KESDIALABLE_H
 #define NUMBERING_KESDIALABLE_H
 
+#include "numbering/Export.h"
 #include "numbering/ReferenceCount.h"
 
 #include <string>
@@ -17,7 +18,7 @@ class KesDialRulesItem;
 /// This generic strategy follows the installation country's rule letters: "E" puts the country
 /// code, "F" the prefix and the area code, "I" the prefix alone. Countries whose dialing the
 /// letters cannot express have subclasses. The country rule passed is always the installation's.
-class KesDialable {
+class NUMBERING_API KesDialable {
 public:
     KesDialable();
     virtual ~KesDialable();

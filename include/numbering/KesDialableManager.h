@@ -1,6 +1,7 @@
 #ifndef NUMBERING_KESDIALABLEMANAGER_H
 #define NUMBERING_KESDIALABLEMANAGER_H
 
+#include "numbering/Export.h"
 #include "numbering/KesDialable.h"
 
 #include <Poco/AutoPtr.h>
@@ -18,7 +19,7 @@ template <class Value> class TextKeyMap;
 /// The cache of dialing strategies, keyed by calling code ("33"), one for each loaded
 /// configuration. A cached strategy is found without a lock; the first look-up of a calling code
 /// builds its strategy once, under the manager's mutex (the Colombian one reads its operator file).
-class KesDialableManager {
+class NUMBERING_API KesDialableManager {
 public:
     /// The cache of the configuration in use (see KesNumberingConfig::getInstance()); valid until
     /// the first reload after the call has completed.

@@ -1,6 +1,7 @@
 #ifndef NUMBERING_KESDIALABLE_52_H
 #define NUMBERING_KESDIALABLE_52_H
 
+#include "numbering/Export.h"
 #include "numbering/KesDialable.h"
 
 namespace numbering {
@@ -8,7 +9,7 @@ namespace numbering {
 /// The dialing strategy of Mexico (calling code 52). A mobile number is written with "1" before
 /// its area code and is dialled with "044" inside the installation's own area and "045" from
 /// elsewhere; every other national number takes the long-distance prefix.
-class KesDialable_52 : public KesDialable {
+class NUMBERING_API KesDialable_52 : public KesDialable {
 public:
     KesDialable_52();
 

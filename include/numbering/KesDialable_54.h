@@ -1,6 +1,7 @@
 #ifndef NUMBERING_KESDIALABLE_54_H
 #define NUMBERING_KESDIALABLE_54_H
 
+#include "numbering/Export.h"
 #include "numbering/KesDialable.h"
 
 namespace numbering {
@@ -9,7 +10,7 @@ namespace numbering {
 /// number into area code, subscriber number and mobile flag; a mobile is dialled with "15" before
 /// the subscriber number, and a number outside the installation's area with the long-distance
 /// prefix and the area code in front.
-class KesDialable_54 : public KesDialable {
+class NUMBERING_API KesDialable_54 : public KesDialable {
 public:
     KesDialable_54();
 

@@ -1,6 +1,7 @@
 #ifndef NUMBERING_KESDIALABLE_57_H
 #define NUMBERING_KESDIALABLE_57_H
 
+#include "numbering/Export.h"
 #include "numbering/KesAreaCodeTree.h"
 #include "numbering/KesDialable.h"
 
@@ -12,7 +13,7 @@ namespace numbering {
 /// through a carrier chosen by its operator prefix, dialled right after the national or
 /// international prefix. The known operator prefixes and the default one come from
 /// "tz310cnp_57.properties", read once when the strategy is made.
-class KesDialable_57 : public KesDialable {
+class NUMBERING_API KesDialable_57 : public KesDialable {
 public:
     /// Reads "OP_DEFAULT" and the list "OP_0000", "OP_0001", ... up to its first gap; a missing
     /// file leaves the default operator "9" and no known operator prefix.

@@ -1,6 +1,7 @@
 #ifndef NUMBERING_KESDIALABLE_7_H
 #define NUMBERING_KESDIALABLE_7_H
 
+#include "numbering/Export.h"
 #include "numbering/KesDialable.h"
 
 namespace numbering {
@@ -8,7 +9,7 @@ namespace numbering {
 /// The dialing strategy of Russia (calling code 7). A national number gets the long-distance
 /// prefix only when it then makes exactly eleven digits, the length of a complete national
 /// number with its prefix; anything else is dialled as it stands.
-class KesDialable_7 : public KesDialable {
+class NUMBERING_API KesDialable_7 : public KesDialable {
 public:
     KesDialable_7();
 

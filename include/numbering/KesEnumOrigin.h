@@ -1,13 +1,14 @@
 #ifndef NUMBERING_KESENUMORIGIN_H
 #define NUMBERING_KESENUMORIGIN_H
 
+#include "numbering/Export.h"
 #include "numbering/TypesafeEnum.h"
 
 namespace numbering {
 
 /// Where a caller stands seen from the installation. Always handled as a pointer to one of the
 /// five static values, which are made in this order during static initialisation (ids 1 to 5).
-class KesEnumOrigin : public TypesafeEnum {
+class NUMBERING_API KesEnumOrigin : public TypesafeEnum {
 public:
     static KesEnumOrigin ANY;
     static KesEnumOrigin INTERNATIONAL;

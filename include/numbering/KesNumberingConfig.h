@@ -1,6 +1,7 @@
 #ifndef NUMBERING_KESNUMBERINGCONFIG_H
 #define NUMBERING_KESNUMBERINGCONFIG_H
 
+#include "numbering/Export.h"
 #include "numbering/KesCountryRuleItem.h"
 
 #include <Poco/AutoPtr.h>
@@ -24,7 +25,7 @@ template <class Value> class TextKeyMap;
 /// Loaded by the first getInstance() and immutable afterwards, so any thread reads it without a lock.
 /// KesNumberingRules::reload() replaces it with a new store read from the files while conversions
 /// go on: a conversion keeps the store it started with to its end.
-class KesNumberingConfig {
+class NUMBERING_API KesNumberingConfig {
 public:
     /// The store of the configuration in use: the one the calling thread's conversion started
     /// with, else the current one (made on first use). Like every pointer and reference it hands

@@ -1,6 +1,8 @@
 #ifndef NUMBERING_KESNUMBERINGRULES_H
 #define NUMBERING_KESNUMBERINGRULES_H
 
+#include "numbering/Export.h"
+
 #include <string>
 #include <string_view>
 #include <vector>
@@ -22,7 +24,7 @@ class KesNumberingConfig;
 /// conversion for a country included; reload() re-reads the configuration while conversions go on.
 /// Each conversion runs on one configuration from its start to its end. The conversions are
 /// virtual and call each other through the virtual table, so a host subclass can override them.
-class KesNumberingRules {
+class NUMBERING_API KesNumberingRules {
 public:
     /// The facade, made on first call (once, whichever threads call at the same time), with the
     /// configuration store when none is loaded. The facade itself lives until resetInstance().

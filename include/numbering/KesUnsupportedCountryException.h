@@ -1,6 +1,8 @@
 #ifndef NUMBERING_KESUNSUPPORTEDCOUNTRYEXCEPTION_H
 #define NUMBERING_KESUNSUPPORTEDCOUNTRYEXCEPTION_H
 
+#include "numbering/Export.h"
+
 #include <stdexcept>
 #include <string>
 
@@ -8,7 +10,7 @@ namespace numbering {
 
 /// A country code that the dialing rules do not know. The standard base is private on purpose:
 /// handlers for std::runtime_error or std::exception do not catch it, only a handler for this class.
-class KesUnsupportedCountryException : private std::runtime_error {
+class NUMBERING_API KesUnsupportedCountryException : private std::runtime_error {
 public:
     explicit KesUnsupportedCountryException(std::string countryCode);
     KesUnsupportedCountryException(std::string countryCode, std::string reason);

@@ -1,15 +1,17 @@
 #ifndef NUMBERING_LOGGER_H
 #define NUMBERING_LOGGER_H
 
+#include "numbering/Export.h"
+
 #include <string>
 
 /// The host process's log sink. The library always passes 1 as `value`.
 /// A host defines it; the library carries a weak fallback that writes the line to standard error.
-void FlogWrite(const char* text, short value);
+NUMBERING_API void FlogWrite(const char* text, short value);
 
 /// One named diagnostic channel. Every class of the library owns one, made once during static
 /// initialisation and never destroyed. Lines are "LEVEL name - message", handed to FlogWrite.
-class Logger {
+class NUMBERING_API Logger {
 public:
     /// Debug tracing switch, owned by the host (the library only reads it). Every debug call site
     /// tests it first, so that no debug text is built while tracing is off.

@@ -1,11 +1,13 @@
 #ifndef NUMBERING_TYPESAFEENUM_H
 #define NUMBERING_TYPESAFEENUM_H
 
+#include "numbering/Export.h"
+
 #include <string>
 
 /// A value of a typesafe enumeration: a display name and an id unique across all values,
 /// taken from a counter in construction order. Values compare by id only.
-class TypesafeEnum {
+class NUMBERING_API TypesafeEnum {
 public:
     explicit TypesafeEnum(std::string name);
     virtual ~TypesafeEnum();

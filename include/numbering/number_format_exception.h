@@ -1,13 +1,15 @@
 #ifndef NUMBERING_NUMBER_FORMAT_EXCEPTION_H
 #define NUMBERING_NUMBER_FORMAT_EXCEPTION_H
 
+#include "numbering/Export.h"
+
 #include <stdexcept>
 #include <string>
 
 namespace numbering {
 
 /// A digit string holds something that is not a digit.
-class number_format_exception : public std::invalid_argument {
+class NUMBERING_API number_format_exception : public std::invalid_argument {
 public:
     explicit number_format_exception(const std::string& message) : std::invalid_argument(message) {}
 };

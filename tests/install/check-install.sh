@@ -1,26 +1,48 @@
 #!/usr/bin/env bash
-# Installs the build tree into a scratch prefix and builds a tiny consumer against it twice: through
-# the exported CMake package and through pkg-config.
+# Installs the build tree into a scratch prefix, moves the installed tree elsewhere, and uses it
+# from there the way programs do: a consumer built through the exported CMake package, one built
+# with plain pkg-config, and the installed tool. Nothing may remember the prefix it was installed
+# to, and nothing runs with LD_LIBRARY_PATH.
+#   check-install.sh <build directory>
 set -euo pipefail
 build_dir=$1
 source_dir=$(cd "$(dirname "$0")" && pwd)/consumer
 work=$(mktemp -d)
 trap 'rm -rf "$work"' EXIT
+unset LD_LIBRARY_PATH NUMBERING_CONFIG_DIR
 
-cmake --install "$build_dir" --prefix "$work/prefix" >/dev/null
-export NUMBERING_CONFIG_DIR="$work/prefix/share/numbering/"
-export LD_LIBRARY_PATH="$work/prefix/lib:${LD_LIBRARY_PATH:-}"
-libdir=$(ls -d "$work"/prefix/lib*/ | head -n 1)
-export LD_LIBRARY_PATH="$libdir:$LD_LIBRARY_PATH"
+cmake --install "$build_dir" --prefix "$work/installed" >/dev/null
+mv "$work/installed" "$work/prefix"
+prefix=$work/prefix
+library=$(find "$prefix" -name libNumbering.so.1)
+libdir=$(dirname "$library")
+echo "library: ${library#"$prefix"/}"
 
-cmake -S "$source_dir" -B "$work/cmake-build" -DCMAKE_PREFIX_PATH="$work/prefix" >/dev/null
+cmake -S "$source_dir" -B "$work/cmake-build" -DCMAKE_PREFIX_PATH="$prefix" >/dev/null
 cmake --build "$work/cmake-build" >/dev/null
-echo "find_package consumer: $("$work/cmake-build/consumer")"
+echo "find_package consumer: $(NUMBERING_CONFIG_DIR=$prefix/share/numbering/ "$work/cmake-build/consumer")"
 
-PKG_CONFIG_PATH="$libdir/pkgconfig" \
-  g++ -std=c++17 "$source_dir/main.cpp" -o "$work/pc-consumer" $(PKG_CONFIG_PATH="$libdir/pkgconfig" pkg-config --define-prefix --cflags --libs numbering)
-echo "pkg-config consumer: $("$work/pc-consumer")"
+export PKG_CONFIG_PATH="$libdir/pkgconfig"
+test "$(realpath "$(pkg-config --variable=prefix numbering)")" = "$prefix"
+# shellcheck disable=SC2046 # the flags are meant to split
+g++ -std=c++17 "$source_dir/main.cpp" -o "$work/pc-consumer" $(pkg-config --cflags --libs numbering) \
+  -Wl,-rpath,"$(pkg-config --variable=libdir numbering)"
+echo "pkg-config consumer: $(NUMBERING_CONFIG_DIR=$prefix/share/numbering/ "$work/pc-consumer")"
 
-test -x "$work/prefix/bin/numbering"
-ls "$work"/prefix/lib*/libNumbering.so.1 >/dev/null
-echo "installed tree complete"
+# The tool finds the library through its RUNPATH and the shipped configuration beside it: an
+# installation mask file placed there changes its layout.
+tool=$prefix/bin/numbering
+readelf -d "$tool" | grep -q 'RUNPATH.*\$ORIGIN/'
+"$tool" --version
+expect() {
+    local got
+    got=$("$tool" -c FR -x 0 -a 1 canonical "01 23 45 67 89")
+    if [ "$got" != "$1" ]; then
+        echo "installed tool: expected '$1', got '$got'"
+        exit 1
+    fi
+}
+expect "+33 (0) 1 23 45 67 89"
+echo "Mask_33_1=C-A-x" >"$prefix/share/numbering/dlr_cnp_mask.properties"
+expect "33-0-123456789"
+echo "installed tool runs on its shipped configuration"

@@ -31,7 +31,8 @@ const char* const USAGE =
     "  -p, --pattern MASK        display mask for canonical and format (letters C, A, a, x)\n"
     "      --config-dir DIR      configuration directory [NUMBERING_CONFIG_DIR, else the shipped one]\n"
     "      --trace               write the library's debug lines to standard error\n"
-    "  -h, --help                this text\n";
+    "  -h, --help                this text\n"
+    "      --version             the versions of the tool and of the library it runs on\n";
 
 namespace {
 
@@ -57,6 +58,8 @@ Options parseOptions(int argc, char** argv) {
         };
         if (argument == "-h" || argument == "--help")
             options.help = true;
+        else if (argument == "--version")
+            options.version = true;
         else if (argument == "--trace")
             options.trace = true;
         else if (argument == "-c" || argument == "--country")
@@ -84,7 +87,7 @@ Options parseOptions(int argc, char** argv) {
         else
             positional.push_back(argument);
     }
-    if (options.help)
+    if (options.help || options.version)
         return options;
     if (positional.empty())
         throw std::invalid_argument("no command given");

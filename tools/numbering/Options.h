@@ -18,6 +18,7 @@ struct Options {
     std::string configDir; // empty: NUMBERING_CONFIG_DIR if set, else the shipped configuration
     bool trace = false;
     bool help = false;
+    bool version = false;
 };
 
 /// Parses argv; throws std::invalid_argument with a message for the user on a bad command line.

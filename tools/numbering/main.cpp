@@ -7,6 +7,7 @@
 #include "numbering/KesNumberingRules.h"
 #include "numbering/KesUnsupportedCountryException.h"
 #include "numbering/Logger.h"
+#include "numbering/Version.h"
 
 #include <cstdio>
 #include <cstdlib>
@@ -102,6 +103,10 @@ int main(int argc, char** argv) {
     }
     if (options.help) {
         std::cout << USAGE;
+        return 0;
+    }
+    if (options.version) {
+        std::cout << "numbering " NUMBERING_VERSION_STRING " (libNumbering " << libraryVersion() << ")\n";
         return 0;
     }
     useConfigurationDirectory(options, argv);
