@@ -93,11 +93,11 @@ std::string quoted(std::string_view number) {
     return text + "'";
 }
 
+/// What the library trims from both ends of a number.
+const char* const BLANKS = " \t\n\v\f\r";
+
 bool isBlank(std::string_view text) {
-    for (char c : text)
-        if (!std::isspace(static_cast<unsigned char>(c)))
-            return false;
-    return true;
+    return text.find_first_not_of(BLANKS) == std::string_view::npos;
 }
 
 /// Why the library gave no result for `number`, as far as the tool can tell.
@@ -107,8 +107,8 @@ std::string whyNotConverted(const Options& options, const std::string& number) {
     const std::string allowed = "+0123456789" + KesNumberingRules::TELEPHONENUMBER_FORMAT_CHARACTER +
                                 KesNumberingRules::TELEPHONENUMBER_SPECIAL_CHARACTER;
     std::string_view inner = number;
-    inner.remove_prefix(inner.find_first_not_of(" \t\r\v\f\n"));
-    inner.remove_suffix(inner.size() - 1 - inner.find_last_not_of(" \t\r\v\f\n"));
+    inner.remove_prefix(inner.find_first_not_of(BLANKS));
+    inner.remove_suffix(inner.size() - 1 - inner.find_last_not_of(BLANKS));
     const std::string_view::size_type odd = inner.find_first_not_of(allowed);
     if (odd != std::string_view::npos)
         return quoted(number) + " is not a telephone number: " + quoted(inner.substr(odd, 1)) +
@@ -123,7 +123,6 @@ std::string whyNotConverted(const Options& options, const std::string& number) {
 class Output {
 public:
     Output() : interactive(isatty(STDOUT_FILENO) == 1) { text.reserve(CAPACITY); }
-    ~Output() { flush(); }
 
     /// Appends `result` and the end of the line (after `input` and a tab in batch mode).
     void line(const std::string* input, const std::string& result) {
@@ -137,6 +136,7 @@ public:
             flush();
     }
 
+    /// Writes what is held; a failed write (a full disk, a closed pipe) ends the tool.
     void flush() {
         if (!text.empty() && std::fwrite(text.data(), 1, text.size(), stdout) != text.size()) {
             std::fprintf(stderr, "numbering: cannot write the results: %s\n", std::strerror(errno));
