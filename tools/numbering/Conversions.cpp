@@ -31,11 +31,9 @@ std::unique_ptr<KesDialRulesItem> makeInstallation(const Options& options) {
     const std::string& country = options.country;
     const bool letters = country.size() == 2 && std::isalpha(static_cast<unsigned char>(country[0])) &&
                          std::isalpha(static_cast<unsigned char>(country[1]));
+    const std::string twoLetters = "the installation's country is an ISO 3166 code of two letters";
     if (!letters)
-        throw std::invalid_argument(
-            "the installation's country is an ISO 3166 code of two letters, such as FR "
-            "or DE, not '" +
-            country + "'");
+        throw std::invalid_argument(twoLetters + ", such as FR or DE, not '" + country + "'");
     std::string upper = country;
     for (char& c : upper)
         c = static_cast<char>(std::toupper(static_cast<unsigned char>(c)));
