@@ -4,7 +4,7 @@
 set -euo pipefail
 cd "$(dirname "$0")/.."
 
-bash tools/install-packages.sh cmake make g++ libpoco-dev
+bash tools/install-packages.sh cmake make g++ libpoco-dev scdoc
 
 cmake -S . -B build-tool -DCMAKE_BUILD_TYPE=Release -DNUMBERING_BUILD_TESTS=OFF >/dev/null
 cmake --build build-tool -j"$(nproc)" --target numbering >/dev/null

@@ -7,7 +7,7 @@
 set -euo pipefail
 cd "$(dirname "$0")/.."
 
-bash tools/install-packages.sh cmake make g++ clang libclang-rt-14-dev pkg-config python3 \
+bash tools/install-packages.sh cmake make g++ clang libclang-rt-14-dev pkg-config python3 scdoc groff-base \
   libpoco-dev libgtest-dev libgmock-dev libbenchmark-dev dpkg-dev file lintian
 
 jobs=$(nproc)

@@ -11,6 +11,9 @@ NUMBERING_API void FlogWrite(const char* text, short value);
 
 /// One named diagnostic channel. Every class of the library owns one, made once during static
 /// initialisation and never destroyed. Lines are "LEVEL name - message", handed to FlogWrite.
+/// Messages carry numbers from outside (a calling number from a trunk), so their control characters
+/// reach the sink escaped ("\n", "\r", "\t", "\x1b"): a message can neither start a line of its own
+/// nor drive a terminal. As the sink takes a C string, a message ends at its first NUL.
 class NUMBERING_API Logger {
 public:
     /// Debug tracing switch, owned by the host (the library only reads it). Every debug call site
@@ -25,12 +28,16 @@ public:
     void debug(std::string message);
     void info(std::string message);
     void error(std::string message);
+    /// An error line whose `continuation` follows on a line of its own, escaped in the same way:
+    /// the one real line break a log line may hold.
+    void error(std::string message, std::string continuation);
 
     std::string name;
 
 private:
     explicit Logger(std::string loggerName);
-    void write(const char* level, const std::string& message) const;
+    void write(const char* level, const std::string& message,
+               const std::string* continuation = nullptr) const;
 };
 
 #endif

@@ -60,12 +60,13 @@ template <class Body, class OnFailure> std::string guardConversion(Body body, On
 
 /// The error line of a number conversion that failed:
 /// "KesNumberingRules::<operation> exception: <what> - PhoneNumber: '<number>'<detail>" followed by
-/// the installation's dialing rules on a line of their own.
+/// the installation's dialing rules on a line of their own (the logger escapes any other line break).
 inline void logConversionFailure(Logger* logger, const char* operation, const char* what,
                                  const std::string& number, const std::string& detail,
                                  KesDialRulesItem* rules) {
     logger->error(std::string("KesNumberingRules::") + operation + " exception: " + what +
-                  " - PhoneNumber: '" + number + "'" + detail + "\n  DialRules: " + rules->ToString());
+                      " - PhoneNumber: '" + number + "'" + detail,
+                  "  DialRules: " + rules->ToString());
 }
 
 } // namespace numbering

@@ -5,6 +5,8 @@
 
 #include <gtest/gtest.h>
 
+#include <string>
+
 TEST(Logger, EveryCallMakesADistinctLogger) {
     Logger* first = Logger::getLogger("N9numbering4SameE");
     Logger* second = Logger::getLogger("N9numbering4SameE");
@@ -25,6 +27,36 @@ TEST(Logger, LinesCarryLevelNameSeparatorAndMessage) {
     EXPECT_EQ(testhost::lines()[1], "INFO N9numbering18KesNumberingConfigE - info text");
     // An empty message leaves the line ending in the separator's blank.
     EXPECT_EQ(testhost::lines()[2], "ERROR N9numbering18KesNumberingConfigE - ");
+    delete logger;
+}
+
+// What reaches the sink for a message: control characters escaped, other bytes as they are, the
+// message ending at a NUL as the C string the sink receives would.
+TEST(Logger, ControlCharactersAreEscapedAndNothingElse) {
+    struct Case {
+        std::string message;
+        std::string logged;
+    };
+    const Case cases[] = {
+        {"+33 (1) 23456789 ()-.*#ABCD \\n", "+33 (1) 23456789 ()-.*#ABCD \\n"},
+        {"a\nb\rc\td", "a\\nb\\rc\\td"},
+        {"\x1b[31m\x07\x7f\x01", "\\x1b[31m\\x07\\x7f\\x01"},
+        {"caf\xc3\xa9 \x9b", "caf\xc3\xa9 \x9b"},
+        {std::string("12\0\nhidden", 10), "12"},
+    };
+    Logger* logger = Logger::getLogger("N9numbering4TestE");
+    for (const Case& c : cases) {
+        testhost::clear();
+        logger->info(c.message);
+        ASSERT_EQ(testhost::lines().size(), 1u);
+        EXPECT_EQ(testhost::lines()[0], "INFO N9numbering4TestE - " + c.logged);
+    }
+    testhost::clear();
+    logger->error("first\n", std::string("  second\x1b\0gone", 15));
+    EXPECT_EQ(testhost::lines().at(0), "ERROR N9numbering4TestE - first\\n\n  second\\x1b");
+    testhost::clear();
+    logger->error(std::string("cut\0", 4), "  never written");
+    EXPECT_EQ(testhost::lines().at(0), "ERROR N9numbering4TestE - cut");
     delete logger;
 }
 

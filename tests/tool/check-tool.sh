@@ -61,21 +61,38 @@ expect "French installation, GSM form" 0 "+33123456789"
 run -c DE -x 0 -a 89 canonical 030123456 015123456789
 expect "German installation, two numbers as arguments" 0 "+49 (30) 123456"$'\n'"+49 (1512) 3456789"
 
-run --stdin $'01 23 45 67 89\n\n+49 (89) 123456\n' -c FR dial
-expect "batch from standard input, empty line skipped" 0 \
-    "01 23 45 67 89${tab}00123456789"$'\n'"+49 (89) 123456${tab}0004989123456"
+# One output line for every input line, the last one without its line break included.
+run --stdin $'01 23 45 67 89\n\n  \n+49 (89) 123456' -c FR dial
+expect "batch from standard input, empty lines kept in place" 0 \
+    "01 23 45 67 89${tab}00123456789"$'\n'"${tab}"$'\n'"  ${tab}"$'\n'"+49 (89) 123456${tab}0004989123456"
 
-run --stdin $'0123456789\n0123x\n' -c FR canonical
-if [ "$status" != 1 ] || [ "$out" != "0123456789${tab}+33 (0) 1 23 45 67 89"$'\n'"0123x${tab}" ] ||
-    [[ "$err" != *"is not a phone number"* ]]; then
-    fail "batch with a number that cannot be converted (wanted status 1, an empty result and the error)"
+# A number the library rejects: an empty result in its place and one line of the tool's own.
+run --stdin $'0123456789\n0123x\n+99 1\n' -c FR canonical
+if [ "$status" != 1 ] || [ "$out" != "0123456789${tab}+33 (0) 1 23 45 67 89"$'\n'"0123x${tab}"$'\n'"+99 1${tab}" ] ||
+    [ "$err" != "numbering: line 2: '0123x' is not a telephone number: 'x' is neither a digit nor one of \"+ ()-.*#ABCD\""$'\n'"numbering: line 3: '+99 1': no result from the library (canonical, installation in FR; --trace shows why)" ]; then
+    fail "batch with numbers that cannot be converted (wanted status 1, empty results and one line each)"
+fi
+
+run -c FR canonical ""
+if [ "$status" != 1 ] || [ -n "$out" ] || [ "$err" != "numbering: empty number: nothing to convert" ]; then
+    fail "empty number as argument"
+fi
+
+# With --trace the library's own lines follow, numbers escaped: none can pass for a line of its own.
+run --trace -c FR canonical $'12\nERROR fake\e[2J'
+if [ "$status" != 1 ] || [[ "$err" != *"PhoneNumber: '12\\nERROR fake\\x1b[2J'"* ]] ||
+    grep -q '^ERROR fake' <<<"$err" || [[ "$err" == *$'\e'* ]]; then
+    fail "--trace with control characters in the number (wanted them escaped)"
 fi
 
 run -c XX canonical 0123456789
 expect_error "unknown country" 2 "Country code 'XX' is not supported"
 
 run -c FRA canonical 0123456789
-expect_error "country code of three letters" 2 "Alpha-2 ISO 3166 country code"
+expect_error "country code of three letters" 2 "ISO 3166 code of two letters, such as FR or DE, not 'FRA'"
+
+run -c fr canonical 0123456789
+expect_error "country code in lower case" 2 "country codes are written in capitals: -c FR"
 
 run --bogus canonical 0123456789
 expect_error "unknown long option" 2 "unknown option --bogus"

@@ -1,19 +1,16 @@
 // numbering: runs the library's conversions from the command line.
+#include "Conversions.h"
 #include "Options.h"
 
-#include "numbering/KesClid.h"
-#include "numbering/KesDialRulesItem.h"
 #include "numbering/KesNumberingConfig.h"
-#include "numbering/KesNumberingRules.h"
-#include "numbering/KesUnsupportedCountryException.h"
 #include "numbering/Logger.h"
 #include "numbering/Version.h"
 
 #include <cstdio>
 #include <cstdlib>
+#include <cstring>
 #include <iostream>
 #include <limits.h>
-#include <memory>
 #include <string>
 #include <unistd.h>
 
@@ -21,9 +18,10 @@ using namespace numbering;
 
 bool Logger::m_Traces = false;
 
-// Errors always reach standard error; information and debug lines only with --trace.
+// Errors reach standard error, information and debug lines only with --trace. The tool reports a
+// number it cannot convert in its own words: the library's error line about it only with --trace.
 void FlogWrite(const char* text, short) {
-    if (Logger::m_Traces || std::string(text).compare(0, 6, "ERROR ") == 0)
+    if (Logger::m_Traces || (!convertingNumbers && std::strncmp(text, "ERROR ", 6) == 0))
         std::fprintf(stderr, "%s\n", text);
 }
 
@@ -64,33 +62,6 @@ void useConfigurationDirectory(const Options& options, char** argv) {
     std::exit(2);
 }
 
-// One conversion; an empty answer means the library could not convert the number.
-std::string convert(const Options& options, KesNumberingRules* rules, KesDialRulesItem* installation,
-                    const std::string& number) {
-    const std::string& command = options.command;
-    if (command == "canonical")
-        return rules->makeCanonicalNumber(installation, number, options.pattern);
-    if (command == "dial")
-        return rules->makePhoneNumber(installation, number);
-    if (command == "gsm")
-        return rules->makeGSMCanonicalNumber(installation, number, false);
-    if (command == "format")
-        return rules->formatCanonicalNumber(number, options.pattern);
-    if (command == "decompose") {
-        std::string country = rules->extractCountryNumberFromCanonicalNumber(number);
-        if (country.empty())
-            return std::string();
-        return country + "\t" + rules->extractAreaCodeOrNatPrefixFromCanonicalNumber(number) + "\t" +
-               rules->extractExtensionFromCanonicalNumber(number);
-    }
-    KesClid* clid = rules->makeClid(installation, number);
-    if (clid == nullptr)
-        return std::string();
-    std::string presented = clid->getNumber() + "\t" + clid->getOrigin()->name;
-    clid->release();
-    return presented;
-}
-
 } // namespace
 
 int main(int argc, char** argv) {
@@ -118,44 +89,5 @@ int main(int argc, char** argv) {
         return 2;
     }
 
-    KesNumberingRules* rules = KesNumberingRules::getInstance();
-    std::unique_ptr<KesDialRulesItem> installation;
-    try {
-        installation.reset(new KesDialRulesItem(options.country, options.extPrefix, options.localLength,
-                                                options.areaCodes, options.exceptLength,
-                                                options.exceptBegin));
-    } catch (const KesUnsupportedCountryException& e) {
-        std::cerr << "numbering: " << e.what() << " (configuration: " << KesNumberingConfig::configDirectory()
-                  << ")\n";
-        return 2;
-    } catch (const std::invalid_argument& e) {
-        std::cerr << "numbering: " << e.what() << "\n";
-        return 2;
-    }
-
-    int failures = 0;
-    auto run = [&](const std::string& number, bool batch) {
-        std::string result;
-        try {
-            result = convert(options, rules, installation.get(), number);
-        } catch (const std::exception& e) {
-            std::cerr << "numbering: '" << number << "': " << e.what() << "\n";
-        }
-        if (result.empty())
-            ++failures;
-        if (batch)
-            std::cout << number << '\t';
-        std::cout << result << '\n';
-    };
-    if (options.numbers.empty()) {
-        for (std::string line; std::getline(std::cin, line);)
-            if (!line.empty())
-                run(line, true);
-    } else {
-        for (const std::string& number : options.numbers)
-            run(number, false);
-    }
-    installation.reset();
-    KesNumberingRules::resetInstance();
-    return failures == 0 ? 0 : 1;
+    return convertNumbers(options);
 }
