@@ -3,6 +3,7 @@
 #include "Options.h"
 
 #include "numbering/KesNumberingConfig.h"
+#include "numbering/KesNumberingRules.h"
 #include "numbering/Logger.h"
 #include "numbering/Version.h"
 
@@ -45,21 +46,17 @@ std::string shippedConfiguration() {
     return NUMBERING_SOURCE_DATA_DIR;
 }
 
-// The library takes its configuration directory from the environment when it is loaded, which
-// happens before main: point the variable at the wanted directory and start again once.
-void useConfigurationDirectory(const Options& options, char** argv) {
+// The directory named on the command line, else NUMBERING_CONFIG_DIR, else the shipped configuration.
+std::string configurationDirectory(const Options& options) {
     const char* current = std::getenv("NUMBERING_CONFIG_DIR");
     if (current != nullptr && *current == '\0')
         current = nullptr; // the library ignores an empty value: so does the tool
     std::string wanted = options.configDir;
     if (wanted.empty())
         wanted = current != nullptr ? current : shippedConfiguration();
-    if (current != nullptr && wanted == current)
-        return;
-    setenv("NUMBERING_CONFIG_DIR", wanted.c_str(), 1);
-    execv("/proc/self/exe", argv);
-    std::perror("numbering: cannot restart with the configuration directory");
-    std::exit(2);
+    if (!wanted.empty() && wanted.back() != '/')
+        wanted += '/';
+    return wanted;
 }
 
 } // namespace
@@ -80,14 +77,14 @@ int main(int argc, char** argv) {
         std::cout << "numbering " NUMBERING_VERSION_STRING " (libNumbering " << libraryVersion() << ")\n";
         return 0;
     }
-    useConfigurationDirectory(options, argv);
     Logger::m_Traces = options.trace;
     // Without dialing rules every country would be reported as unsupported: name the real cause.
-    if (!isFile(KesNumberingConfig::DIALING_RULES_FILE) &&
-        !isFile(KesNumberingConfig::DIALING_RULES_DEFAULT_FILE)) {
-        std::cerr << "numbering: no dialing rules in " << KesNumberingConfig::configDirectory() << "\n";
+    const std::string directory = configurationDirectory(options);
+    if (!isFile(directory + "dialingrules.properties") && !isFile(directory + "dialingrules_default.properties")) {
+        std::cerr << "numbering: no dialing rules in " << directory << "\n";
         return 2;
     }
+    KesNumberingRules::reload(directory);
 
     return convertNumbers(options);
 }
