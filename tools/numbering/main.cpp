@@ -1,4 +1,5 @@
 // numbering: runs the library's conversions from the command line.
+#include "Check.h"
 #include "Options.h"
 
 #include "numbering/KesClid.h"
@@ -106,6 +107,8 @@ int main(int argc, char** argv) {
     }
     useConfigurationDirectory(options, argv);
     Logger::m_Traces = options.trace;
+    if (options.command == "check")
+        return runCheck(KesNumberingConfig::configDirectory());
     // Without dialing rules every country would be reported as unsupported: name the real cause.
     if (!isFile(KesNumberingConfig::DIALING_RULES_FILE) &&
         !isFile(KesNumberingConfig::DIALING_RULES_DEFAULT_FILE)) {
