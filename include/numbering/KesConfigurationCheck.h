@@ -43,13 +43,13 @@ struct KesConfigurationReport {
 /// Checks the property files of a configuration directory as the library reads them, with its own
 /// reader and rules, and says what it would do with them: rows and keys it skips, lists cut short,
 /// area codes it never finds, countries whose numbers would lose their calling code. Changes no
-/// file and builds nothing the library's conversions use, so a host may run it at any time, for
-/// instance to refuse a configuration before it calls resetInstance().
+/// file and builds nothing the library's conversions use, so a host may run it on any thread while
+/// conversions go on, for instance to refuse a directory before KesNumberingRules::reload(directory).
 class KesConfigurationCheck {
 public:
     /// Checks `directory` (with or without a final "/").
     static KesConfigurationReport check(const std::string& directory);
-    /// Checks the directory the library reads its files from.
+    /// Checks the directory of the configuration in use (KesNumberingConfig::configDirectory()).
     static KesConfigurationReport check();
 };
 

@@ -47,28 +47,27 @@ std::pair<std::string, bool> keyOfLine(const std::string& line) {
 
 CheckedFile::CheckedFile(std::string path, PropertyText opened, std::vector<KesConfigurationFinding>* sink)
     : filePath(std::move(path)), file(std::move(opened)), findings(sink) {
+    const std::string_view text = file.text;
     int number = 0;
     bool continued = false;
-    std::string::size_type start = 0;
-    while (start < file.text.size()) {
-        std::string::size_type next = file.text.find('\n', start);
-        if (next == std::string::npos)
-            next = file.text.size();
+    for (std::string_view::size_type start = 0; start < text.size();) {
+        std::string_view::size_type next = std::min(text.find('\n', start), text.size());
+        std::string_view line = text.substr(start, next - start);
+        start = next + 1;
         ++number;
         // The reader also ends a line at a carriage return or a NUL byte ("\r\n" is one line end).
-        const std::string::size_type end = next > start && file.text[next - 1] == '\r' ? next - 1 : next;
-        std::string::size_type piece = start;
-        while (piece <= end) {
-            std::string::size_type pieceEnd = file.text.find_first_of(std::string("\r\0", 2), piece);
-            if (pieceEnd == std::string::npos || pieceEnd > end)
-                pieceEnd = end;
-            const auto [key, continues] = keyOfLine(file.text.substr(piece, pieceEnd - piece));
+        if (!line.empty() && line.back() == '\r')
+            line.remove_suffix(1);
+        for (bool last = false; !last;) {
+            const std::string_view::size_type end = line.find_first_of(std::string_view("\r\0", 2));
+            last = end == std::string_view::npos;
+            const auto [key, continues] = keyOfLine(std::string(line.substr(0, end)));
             if (!continued && !key.empty())
                 linesOfKey[key].push_back(number);
             continued = continues;
-            piece = pieceEnd + 1;
+            if (!last)
+                line.remove_prefix(end + 1);
         }
-        start = next + 1;
     }
 }
 

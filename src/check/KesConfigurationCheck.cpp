@@ -216,9 +216,7 @@ KesConfigurationReport KesConfigurationCheck::check(const std::string& directory
 }
 
 KesConfigurationReport KesConfigurationCheck::check() {
-    // The file names are fixed when the library is loaded: their directory is the one it reads.
-    const std::string& file = KesNumberingConfig::DIALING_RULES_FILE;
-    return check(file.substr(0, file.rfind('/') + 1));
+    return check(KesNumberingConfig::configDirectory());
 }
 
 } // namespace numbering

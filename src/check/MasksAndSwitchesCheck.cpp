@@ -85,7 +85,7 @@ std::vector<std::string> checkMasks(CheckedFile& file, const DialingRules& rules
                             "' is neither a mask letter (C, A, a, x) nor a separator (blank - . ( ) +): "
                             "it is written as it stands into every number of +" +
                             code);
-        if (rules.rowsOfCallingCode.count(code) == 0)
+        if (!rules.rows.empty() && rules.rowsOfCallingCode.count(code) == 0) // no rules: said once
             file.report(Severity::Warning, key,
                         key + ": no row of the dialing rules has calling code " + code +
                             ", so the mask is never used");
@@ -115,9 +115,10 @@ std::optional<bool> checkActivation(CheckedFile& file, const DialingRules& rules
             continue;
         }
         if (rules.countryOfCallingCode.count(*code) == 0) {
-            file.report(Severity::Warning, key,
-                        key + ": no P row of the dialing rules has calling code " + *code +
-                            ", so the library ignores the key");
+            if (!rules.rows.empty()) // no rules at all: said once, for their file
+                file.report(Severity::Warning, key,
+                            key + ": no P row of the dialing rules has calling code " + *code +
+                                ", so the library ignores the key");
             continue;
         }
         std::string why;
