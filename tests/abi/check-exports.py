@@ -14,9 +14,9 @@ import subprocess
 import sys
 from pathlib import Path
 
-EXPORTED_CLASS = re.compile(r"^class NUMBERING_API (\w+)\b", re.MULTILINE)
+EXPORTED_CLASS = re.compile(r"^(?:class|struct) NUMBERING_API (\w+)\b", re.MULTILINE)
 EXPORTED_FUNCTION = re.compile(r"^NUMBERING_API [\w:<>*& ]+?\b(\w+)\(", re.MULTILINE)
-ANY_CLASS = re.compile(r"^class (\w+)( : [^{;]*)? \{", re.MULTILINE)
+ANY_CLASS = re.compile(r"^(?:class|struct) (\w+)( : [^{;]*)? \{", re.MULTILINE)
 # Symbols that belong to the class or function they name.
 SPECIAL = re.compile(r"^(typeinfo name for |typeinfo for |vtable for |VTT for |(non-)?virtual thunk to )")
 

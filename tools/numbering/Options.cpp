@@ -18,6 +18,8 @@ const char* const USAGE =
     "  gsm         number -> compact international form (+ and digits)\n"
     "  format      canonical number -> laid out with --pattern or the country's mask\n"
     "  decompose   canonical number -> country number, area code, subscriber number (tab-separated)\n"
+    "  check       configuration files -> what the library would make of them, as file:line: severity:\n"
+    "              message (exit status 0 clean or notes only, 1 warnings, 2 errors); takes no number\n"
     "\n"
     "installation (defaults in brackets):\n"
     "  -c, --country CC          ISO 3166 alpha-2 country of the installation [FR]\n"
@@ -92,12 +94,15 @@ Options parseOptions(int argc, char** argv) {
     if (positional.empty())
         throw std::invalid_argument("no command given");
     options.command = positional.front();
-    static const char* const commands[] = {"canonical", "dial", "clid", "gsm", "format", "decompose"};
+    static const char* const commands[] = {"canonical", "dial",      "clid", "gsm",
+                                           "format",    "decompose", "check"};
     bool known = false;
     for (const char* command : commands)
         known = known || options.command == command;
     if (!known)
         throw std::invalid_argument("unknown command '" + options.command + "'");
     options.numbers.assign(positional.begin() + 1, positional.end());
+    if (options.command == "check" && !options.numbers.empty())
+        throw std::invalid_argument("check takes no number");
     return options;
 }

@@ -1,4 +1,5 @@
 // numbering: runs the library's conversions from the command line.
+#include "Check.h"
 #include "Conversions.h"
 #include "Options.h"
 
@@ -78,8 +79,10 @@ int main(int argc, char** argv) {
         return 0;
     }
     Logger::m_Traces = options.trace;
-    // Without dialing rules every country would be reported as unsupported: name the real cause.
     const std::string directory = configurationDirectory(options);
+    if (options.command == "check")
+        return runCheck(directory);
+    // Without dialing rules every country would be reported as unsupported: name the real cause.
     if (!isFile(directory + "dialingrules.properties") && !isFile(directory + "dialingrules_default.properties")) {
         std::cerr << "numbering: no dialing rules in " << directory << "\n";
         return 2;

@@ -1,0 +1,222 @@
+#include "numbering/KesConfigurationCheck.h"
+
+#include "FileChecks.h"
+#include "numbering/KesNumberingConfig.h"
+
+#include <Poco/Exception.h>
+
+#include <algorithm>
+#include <functional>
+#include <map>
+#include <set>
+#include <unistd.h>
+
+namespace numbering {
+
+const char* KesConfigurationFinding::severityName(Severity severity) {
+    switch (severity) {
+    case Severity::Note:
+        return "note";
+    case Severity::Warning:
+        return "warning";
+    default:
+        return "error";
+    }
+}
+
+int KesConfigurationReport::status() const {
+    int status = 0;
+    for (const KesConfigurationFinding& finding : findings)
+        status = std::max(status, static_cast<int>(finding.severity));
+    return status;
+}
+
+namespace configcheck {
+
+namespace {
+
+/// A file the library reads, and what reading neither it nor its default means.
+struct FileRole {
+    std::string name;
+    std::string defaultName; // "" when the library reads no default
+    Severity severityWhenNone;
+    std::string whenNone;
+    std::string loadedItems; // what the file gives ("countries"), to list what the installation lacks
+};
+
+using Check = std::function<std::vector<std::string>(CheckedFile&)>;
+
+/// A file opened for the check, or why it could not be.
+struct Opening {
+    std::optional<PropertyText> text;
+    bool absent = false;
+    std::string whyNot;
+};
+
+Opening open(const std::string& path) {
+    Opening opening;
+    try {
+        opening.text = openPropertyFile(path);
+    } catch (const Poco::FileNotFoundException&) {
+        opening.absent = true;
+        opening.whyNot = "it does not exist";
+    } catch (const Poco::Exception& e) {
+        opening.whyNot = e.message();
+    } catch (const std::exception& e) {
+        opening.whyNot = e.what();
+    }
+    return opening;
+}
+
+class DirectoryCheck {
+public:
+    explicit DirectoryCheck(std::string path) : directory(std::move(path)) {
+        if (directory.empty() || directory.back() != '/')
+            directory += '/';
+    }
+
+    KesConfigurationReport run() {
+        DialingRules rules;
+        checkFile(
+            {"dialingrules.properties", "dialingrules_default.properties", Severity::Error,
+             "the library knows no country and refuses every installation as unsupported", "countries"},
+            [&](CheckedFile& file) { return checkDialingRules(file, rules); },
+            [](CheckedFile& file) {
+                DialingRules other;
+                return checkDialingRules(file, other);
+            });
+        const Check masks = [&](CheckedFile& file) { return checkMasks(file, rules); };
+        checkFile({"dlr_cnp_mask.properties", "dlr_cnp_mask_default.properties", Severity::Error,
+                   "every canonical number keeps only its subscriber number when laid out",
+                   "calling codes with a mask"},
+                  masks, masks);
+        std::optional<bool> firstSwitch;
+        checkFile(
+            {"specific_format_activation.properties", "specific_format_activation_default.properties",
+             Severity::Warning, "the library logs an error, and every plan stays on", ""},
+            [&](CheckedFile& file) {
+                firstSwitch = checkActivation(file, rules);
+                return std::vector<std::string>();
+            },
+            nullptr);
+        for (const AreaCodePlan& plan : AREA_CODE_PLANS) {
+            const std::string code = plan.callingCode;
+            if (!rules.usesCallingCode(code) || !specificFormatActive(code, firstSwitch))
+                continue;
+            const Check areaCodes = [&](CheckedFile& file) { return checkAreaCodes(file, plan); };
+            checkFile({"tz310cnp_" + code + ".properties", "tz310cnp_" + code + "_default.properties",
+                       Severity::Error, "the plan of +" + code + " loads no area code", "area codes"},
+                      areaCodes, areaCodes);
+        }
+        if (rules.usesCallingCode("57")) {
+            // The Colombian dialing strategy reads the installation file only, never a default.
+            std::string unread;
+            if (::access((directory + "tz310cnp_57_default.properties").c_str(), F_OK) == 0)
+                unread = " (it never reads tz310cnp_57_default.properties)";
+            checkFile(
+                {"tz310cnp_57.properties", "", Severity::Warning,
+                 "the Colombian dialing dials operator 9 and recognises no operator" + unread, ""},
+                [](CheckedFile& file) {
+                    checkOperators(file);
+                    return std::vector<std::string>();
+                },
+                nullptr);
+        }
+        sortFindings();
+        return std::move(report);
+    }
+
+private:
+    /// Checks the file of `role` that the library reads with `check`; when that is an installation
+    /// file beside a default, lists what `load` finds in the default and not in it.
+    void checkFile(const FileRole& role, const Check& check, const Check& load) {
+        const std::string installation = directory + role.name;
+        const std::string fallback = role.defaultName.empty() ? std::string() : directory + role.defaultName;
+        report.files.push_back({installation, fallback, std::string()});
+        Opening opened = open(installation);
+        std::string inUse = installation;
+        if (!opened.text) {
+            if (fallback.empty()) {
+                addFinding(opened.absent ? role.severityWhenNone : Severity::Error, installation,
+                           (opened.absent ? "missing" : "cannot be opened (" + opened.whyNot + ")") + ": " +
+                               role.whenNone);
+                return;
+            }
+            if (!opened.absent)
+                addFinding(Severity::Error, installation,
+                           "cannot be opened (" + opened.whyNot + "): the library reads " + role.defaultName +
+                               " instead");
+            Opening defaultOpened = open(fallback);
+            if (!defaultOpened.text) {
+                addFinding(
+                    role.severityWhenNone, fallback,
+                    "cannot be opened (" + defaultOpened.whyNot + ")" +
+                        (opened.absent ? ", and " + role.name + " does not exist either" : std::string()) +
+                        ": " + role.whenNone);
+                return;
+            }
+            opened = std::move(defaultOpened);
+            inUse = fallback;
+        }
+        report.files.back().inUse = inUse;
+        CheckedFile file(inUse, std::move(*opened.text), &report.findings);
+        const std::vector<std::string> loaded = check(file);
+        file.checkText();
+        if (inUse == installation && !fallback.empty())
+            compareWithDefault(role, file, loaded, load);
+    }
+
+    void compareWithDefault(const FileRole& role, CheckedFile& file, const std::vector<std::string>& loaded,
+                            const Check& load) {
+        Opening defaults = open(directory + role.defaultName);
+        if (!defaults.text)
+            return;
+        file.report(Severity::Note, std::string(),
+                    "in use: " + role.defaultName + " is not read at all (the two files are never merged)");
+        if (!load)
+            return;
+        CheckedFile defaultFile(directory + role.defaultName, std::move(*defaults.text), nullptr);
+        const std::set<std::string> present(loaded.begin(), loaded.end());
+        std::vector<std::string> lacking = load(defaultFile);
+        lacking.erase(std::remove_if(lacking.begin(), lacking.end(),
+                                     [&](const std::string& item) { return present.count(item) != 0; }),
+                      lacking.end());
+        if (!lacking.empty())
+            file.report(Severity::Warning, std::string(),
+                        "lacks " + std::to_string(lacking.size()) + " of the " + role.loadedItems + " of " +
+                            role.defaultName + ", which the library does not read: " + listed(lacking));
+    }
+
+    void addFinding(Severity severity, const std::string& path, const std::string& message) {
+        report.findings.push_back({severity, path, std::string(), 0, message});
+    }
+
+    /// Each file's findings together, in the order the files are read, by line.
+    void sortFindings() {
+        std::map<std::string, std::size_t> rank;
+        for (const KesConfigurationFinding& finding : report.findings)
+            rank.emplace(finding.file, rank.size());
+        std::stable_sort(report.findings.begin(), report.findings.end(),
+                         [&](const KesConfigurationFinding& a, const KesConfigurationFinding& b) {
+                             return std::make_pair(rank.at(a.file), a.line) <
+                                    std::make_pair(rank.at(b.file), b.line);
+                         });
+    }
+
+    std::string directory;
+    KesConfigurationReport report;
+};
+
+} // namespace
+
+} // namespace configcheck
+
+KesConfigurationReport KesConfigurationCheck::check(const std::string& directory) {
+    return configcheck::DirectoryCheck(directory).run();
+}
+
+KesConfigurationReport KesConfigurationCheck::check() {
+    return check(KesNumberingConfig::configDirectory());
+}
+
+} // namespace numbering

@@ -1,0 +1,33 @@
+#ifndef NUMBERING_SRC_CHECK_PROPERTYREADING_H
+#define NUMBERING_SRC_CHECK_PROPERTYREADING_H
+
+// The configuration check reaches the library's property file reader through this file only, so
+// that it reads every file exactly as the loaders do and follows them when the reader changes.
+
+#include <Poco/AutoPtr.h>
+#include <Poco/Util/AbstractConfiguration.h>
+
+#include <string>
+#include <string_view>
+
+namespace numbering {
+namespace configcheck {
+
+/// A property file as the library reads it, with its text (which only serves to find lines).
+struct PropertyText {
+    Poco::AutoPtr<Poco::Util::AbstractConfiguration> properties;
+    std::string text;
+};
+
+/// Opens `path` as the library opens a property file: Poco::FileNotFoundException when it does not
+/// exist, Poco::OpenFileException (whose message says why) when it cannot be opened. A directory,
+/// a FIFO or a device cannot be opened: the check never waits for a writer.
+PropertyText openPropertyFile(const std::string& path);
+
+/// The leading run of decimal digits of a numbered value, all that the plans keep of it.
+std::string leadingDigits(std::string_view value);
+
+} // namespace configcheck
+} // namespace numbering
+
+#endif

@@ -1,0 +1,94 @@
+#include "PropertyRules.h"
+
+#include "numbering/KesNumberingConfig.h"
+
+#include <Poco/String.h>
+#include <Poco/StringTokenizer.h>
+
+#include <cstdlib>
+
+namespace numbering {
+
+DialingRuleFields splitDialingRule(const std::string& value) {
+    Poco::StringTokenizer tokens(value, ":");
+    DialingRuleFields fields;
+    fields.count = tokens.count();
+    for (std::size_t i = 0; i < fields.field.size() && i < tokens.count(); ++i)
+        fields.field[i] = tokens[i];
+    return fields;
+}
+
+MaskKey readMaskKey(const std::string& key) {
+    MaskKey read;
+    // "Mask_" may stand anywhere in the key, yet the calling code is always cut from the sixth
+    // character up to the next "_".
+    if (key.find("Mask_") == std::string::npos) {
+        read.skipped = MaskKey::Skipped::NoMaskPrefix;
+        return read;
+    }
+    const std::string::size_type end = key.find('_', 5);
+    if (end == std::string::npos) {
+        read.skipped = MaskKey::Skipped::NoSeparator;
+        return read;
+    }
+    read.callingCode = key.substr(5, end - 5);
+    if (read.callingCode.empty() || read.callingCode.size() > 3)
+        read.skipped = MaskKey::Skipped::CallingCodeLength;
+    return read;
+}
+
+std::optional<std::string> readActivationKey(const std::string& key) {
+    if (key.compare(0, 4, "cnp_") != 0 || key.size() < 5 || key.size() > 7)
+        return std::nullopt;
+    return key.substr(4);
+}
+
+Switch readSwitch(const std::string& value) {
+    if (value.empty())
+        return Switch::Empty;
+    const std::string lower = Poco::toLower(value);
+    if (lower == "true" || lower == "on" || lower == "1")
+        return Switch::On;
+    if (lower == "false" || lower == "off" || lower == "0")
+        return Switch::Off;
+    return Switch::Invalid;
+}
+
+bool specificFormatActive(const std::string& callingCode, std::optional<bool> firstSwitch) {
+    if (callingCode.empty())
+        return true;
+    const long slot = std::strtol(callingCode.c_str(), nullptr, 10);
+    return slot != 0 || !firstSwitch || *firstSwitch;
+}
+
+bool translateOn(const std::string& value) {
+    return value == "1";
+}
+
+std::string numberedKey(const std::string& prefix, int index) {
+    std::string key = prefix + "0000";
+    for (std::size_t i = key.size(); index > 0; index /= 10)
+        key[--i] = static_cast<char>('0' + index % 10);
+    return key;
+}
+
+int numberedIndex(std::string_view prefix, std::string_view key) {
+    if (key.size() != prefix.size() + 4 || key.substr(0, prefix.size()) != prefix)
+        return -1;
+    int index = 0;
+    for (char c : key.substr(prefix.size())) {
+        if (c < '0' || c > '9')
+            return -1;
+        index = index * 10 + (c - '0');
+    }
+    return index;
+}
+
+std::size_t longestAreaCode(const std::string& callingCode) {
+    // "+" calling code " (" area ") " and one subscriber digit, one character short of the limit.
+    const std::size_t around = 1 + callingCode.size() + 2 + 2 + 1;
+    const std::size_t limit = static_cast<std::size_t>(KesNumberingConfig::MAX_PHONE_NUMBER_LENGTH) - 1;
+    return limit > around ? limit - around : 0;
+}
+
+} // namespace numbering

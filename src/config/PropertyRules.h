@@ -1,0 +1,70 @@
+#ifndef NUMBERING_SRC_CONFIG_PROPERTYRULES_H
+#define NUMBERING_SRC_CONFIG_PROPERTYRULES_H
+
+// How the library reads the keys and values of its property files: what a dialing rules row splits
+// into, which mask and activation keys count, what a switch or a "Translate" value says, how the
+// numbered keys run, how long an area code may be. The loaders and the configuration check both
+// read the files by these rules, so that the check reports what the loaders do.
+
+#include <array>
+#include <cstddef>
+#include <optional>
+#include <string>
+#include <string_view>
+
+namespace numbering {
+
+/// A dialing rules value cut at ":" (no trimming, empty fields kept): calling code, international
+/// prefix, international rule, long-distance rule, local rule, name, primary flag. Fields beyond
+/// the seventh are ignored, missing ones are empty.
+struct DialingRuleFields {
+    std::array<std::string, 7> field;
+    std::size_t count = 0; // fields the value holds, ignored ones included
+
+    const std::string& callingCode() const { return field[0]; }
+    const std::string& name() const { return field[5]; }
+    /// Exactly "P": the row is the country returned for its calling code.
+    bool primary() const { return field[6] == "P"; }
+};
+DialingRuleFields splitDialingRule(const std::string& value);
+
+/// The reading of a masks key ("Mask_" + calling code + "_" + any suffix).
+struct MaskKey {
+    enum class Skipped { No, NoMaskPrefix, NoSeparator, CallingCodeLength };
+    Skipped skipped = Skipped::No;
+    /// Cut from the sixth character up to the next "_", wherever "Mask_" stands in the key.
+    std::string callingCode;
+};
+MaskKey readMaskKey(const std::string& key);
+
+/// The calling code of an activation key ("cnp_" + one to three characters), or none: the key is
+/// skipped.
+std::optional<std::string> readActivationKey(const std::string& key);
+
+/// An activation value, compared without regard to case.
+enum class Switch { On, Off, Empty, Invalid };
+Switch readSwitch(const std::string& value);
+
+/// Whether the plan of `callingCode` is on, given the first valid switch of the activation file
+/// (none when there is none). Every switch is filed under 0, so only a calling code that reads as
+/// 0 sees it: every other one is on.
+bool specificFormatActive(const std::string& callingCode, std::optional<bool> firstSwitch);
+
+/// A plan file's "Translate": "1" switches translation on, anything else off.
+bool translateOn(const std::string& value);
+
+/// The keys of a numbered list run from prefix + "0000" to prefix + "9998".
+const int LAST_NUMBERED_INDEX = 9998;
+/// prefix + the index as four digits ("AC_0007").
+std::string numberedKey(const std::string& prefix, int index);
+/// The index of a key of the form prefix + four digits, or -1.
+int numberedIndex(std::string_view prefix, std::string_view key);
+
+/// The longest area code of calling code `callingCode` under which a number can still be dialled:
+/// a canonical number ("+49 (area) subscriber") of MAX_PHONE_NUMBER_LENGTH characters or more is
+/// never made dialable, even with a one-digit subscriber number.
+std::size_t longestAreaCode(const std::string& callingCode);
+
+} // namespace numbering
+
+#endif

@@ -1,0 +1,65 @@
+#!/bin/bash
+# `numbering check` from the outside: the shipped configuration checks clean, and the exit status
+# and the output lines follow the worst finding.
+#   check-command.sh <numbering executable> <shipped configuration directory>
+set -u
+tool=$1
+data=$2
+failures=0
+work=$(mktemp -d)
+trap 'rm -rf "$work"' EXIT
+
+# check EXPECTED_STATUS NAME ARGS...: runs the tool; sets out and err.
+check() {
+    local expected=$1 name=$2
+    shift 2
+    out=$("$tool" "$@" 2>"$work/err")
+    status=$?
+    err=$(cat "$work/err")
+    if [ "$status" != "$expected" ]; then
+        echo "FAIL: $name (exit status $status, wanted $expected)"
+        echo "  stdout: $out"
+        echo "  stderr: $err"
+        failures=$((failures + 1))
+    fi
+}
+
+expect_line() {
+    if ! grep -qxF -- "$2" <<<"$out"; then
+        echo "FAIL: $1: no line '$2' in:"
+        echo "$out"
+        failures=$((failures + 1))
+    fi
+}
+
+check 0 "shipped configuration" check --config-dir "$data"
+[ -z "$out$err" ] || { echo "FAIL: the shipped configuration gives findings: $out$err"; failures=$((failures + 1)); }
+
+NUMBERING_CONFIG_DIR=$data check 0 "shipped configuration through NUMBERING_CONFIG_DIR" check
+
+# Notes only: the installation file is in use, its default is not read.
+mkdir "$work/notes"
+cp "$data"/*.properties "$work/notes/"
+cp "$data/specific_format_activation_default.properties" "$work/notes/specific_format_activation.properties"
+check 0 "notes only" check --config-dir "$work/notes"
+expect_line "notes only" "$work/notes/specific_format_activation.properties: note: in use: specific_format_activation_default.properties is not read at all (the two files are never merged)"
+
+# Warnings: a switch that switches nothing off.
+printf 'cnp_1=on\ncnp_49=off\n' >"$work/notes/specific_format_activation.properties"
+check 1 "warnings" check --config-dir "$work/notes"
+expect_line "warnings" "$work/notes/specific_format_activation.properties:2: warning: cnp_49 = off switches nothing off: the library keeps only the first valid switch of the file (cnp_1) and files it under calling code 0, so the plan of every calling code stays on"
+
+# Errors: an installation holding only the French mask.
+printf 'Mask_33_1=+C (A) x xx xx xx xx\n' >"$work/notes/dlr_cnp_mask.properties"
+check 2 "errors" check --config-dir "$work/notes"
+expect_line "errors" "$work/notes/dlr_cnp_mask.properties: error: no mask for +49 (DE): without one a canonical number keeps only its subscriber number, so \"+49 (89) 123456\" becomes \"123456\", which no longer names the country and is dialled as a local number"
+
+check 2 "an empty directory" check --config-dir "$work/empty-directory"
+check 2 "a number after check" check 0123456789
+[[ "$err" == *"check takes no number"* ]] || { echo "FAIL: a number after check: $err"; failures=$((failures + 1)); }
+
+if [ "$failures" -ne 0 ]; then
+    echo "$failures check(s) failed"
+    exit 1
+fi
+echo "all checks passed"

@@ -1,0 +1,11 @@
+#ifndef NUMBERING_TOOLS_CHECK_H
+#define NUMBERING_TOOLS_CHECK_H
+
+#include <string>
+
+/// `numbering check`: prints the findings of the configuration check of `directory`, one per line
+/// as "file:line: severity: message", and returns the exit status (0 clean or notes only,
+/// 1 warnings, 2 errors).
+int runCheck(const std::string& directory);
+
+#endif
