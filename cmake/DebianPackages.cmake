@@ -1,5 +1,5 @@
 # Debian packages, one per installation component (cd build && cpack -G DEB):
-#   libnumbering1     the shared library, named after its SONAME;
+#   libnumbering2     the shared library, named after its SONAME;
 #   libnumbering-dev  headers, the .so link, the CMake package and the pkg-config file;
 #   numbering         the command-line tool, its manual page and the shipped configuration.
 # The packages install under /usr; the library goes to the multiarch directory chosen in the
@@ -40,10 +40,10 @@ set(CPACK_DEBIAN_PACKAGE_PRIORITY optional)
 set(CPACK_DEBIAN_PACKAGE_SOURCE libnumbering)
 set(CPACK_DEBIAN_PACKAGE_SHLIBDEPS ON)
 # dpkg-shlibdeps runs in the staging directory of each package: the tool's finds the library in the
-# runtime package's one. The tool's dependency on libnumbering1 comes from its component dependency.
+# runtime package's one. The tool's dependency on the runtime package comes from its component dependency.
 set(CPACK_DEBIAN_PACKAGE_SHLIBDEPS_PRIVATE_DIRS ../runtime/usr/${CMAKE_INSTALL_LIBDIR})
 set(CPACK_DEBIAN_ENABLE_COMPONENT_DEPENDS ON)
-# A shlibs file for the package that holds the shared library: libNumbering 1 libnumbering1 (>= version).
+# A shlibs file for the package that holds the shared library: libNumbering <major> libnumbering<major> (>= version).
 set(CPACK_DEBIAN_PACKAGE_GENERATE_SHLIBS ON)
 set(CPACK_DEBIAN_PACKAGE_GENERATE_SHLIBS_POLICY ">=")
 

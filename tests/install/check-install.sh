@@ -14,7 +14,7 @@ unset LD_LIBRARY_PATH NUMBERING_CONFIG_DIR
 cmake --install "$build_dir" --prefix "$work/installed" >/dev/null
 mv "$work/installed" "$work/prefix"
 prefix=$work/prefix
-library=$(find "$prefix" -name libNumbering.so.1)
+library=$(find "$prefix" -name libNumbering.so.2)
 libdir=$(dirname "$library")
 echo "library: ${library#"$prefix"/}"
 

@@ -27,7 +27,7 @@ holds() {
         fi
     done
 }
-holds libnumbering1 "\./usr/lib/$multiarch/libNumbering\.so\.1\..*" "\./usr/share/doc/libnumbering1/copyright"
+holds libnumbering2 "\./usr/lib/$multiarch/libNumbering\.so\.2\..*" "\./usr/share/doc/libnumbering2/copyright"
 holds libnumbering-dev "\./usr/lib/$multiarch/libNumbering\.so" "\./usr/include/numbering/Version\.h" \
     "\./usr/lib/$multiarch/cmake/Numbering/NumberingConfig\.cmake" "\./usr/lib/$multiarch/pkgconfig/numbering\.pc"
 holds numbering "\./usr/bin/numbering" "\./usr/share/numbering/dialingrules_default\.properties"
