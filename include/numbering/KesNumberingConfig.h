@@ -106,7 +106,7 @@ private:
         KesCountryRuleItem* rule; // null when the code names no record
     };
 
-    const std::string directory; // where this store's files are read
+    const std::string directory;                              // where this store's files are read
     std::unique_ptr<TextKeyMap<Country>> countryCodeByNumber; // primary rows only
     std::unique_ptr<TextKeyMap<std::string>> countryCodeByName;
     std::unique_ptr<TextKeyMap<Poco::AutoPtr<KesCountryRuleItem>>> countryRules;

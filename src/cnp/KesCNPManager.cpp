@@ -19,13 +19,7 @@ Logger* KesCNPManager::logger = Logger::getLogger(typeid(KesCNPManager).name());
 KesCNPManager* KesCNPManager::getInstance() {
     if (Logger::m_Traces)
         logger->debug("getInstance()");
-    Configuration& configuration = Configuration::inUse();
-    return configuration.cache<KesCNPManager>(Configuration::PLANS, [&configuration] {
-        auto* made = new KesCNPManager();
-        if (&configuration == Configuration::current())
-            instance = made;
-        return made;
-    });
+    return Configuration::inUse().cache(Configuration::PLANS, instance, [] { return new KesCNPManager(); });
 }
 
 void KesCNPManager::resetInstance() {

@@ -164,28 +164,29 @@ void Configuration::reset() {
     delete currentConfiguration.exchange(nullptr, std::memory_order_acq_rel);
 }
 
-PinnedConfiguration::PinnedConfiguration() : pinned([]() -> Configuration& {
-    if (reader.depth > 0) {
-        ++reader.depth;
-        return *reader.pinned;
-    }
-    if (reader.slot == nullptr)
-        reader.slot = takeSlot();
-    Configuration* candidate = currentConfiguration.load(std::memory_order_seq_cst);
-    for (;;) {
-        if (candidate == nullptr)
-            candidate = &makeFirst();
-        reader.slot->inUse.store(candidate, std::memory_order_seq_cst);
-        // Still current after the slot shows it: a reload that replaces it from now on waits.
-        Configuration* again = currentConfiguration.load(std::memory_order_seq_cst);
-        if (again == candidate)
-            break;
-        candidate = again;
-    }
-    reader.pinned = candidate;
-    reader.depth = 1;
-    return *candidate;
-}()) {}
+PinnedConfiguration::PinnedConfiguration()
+    : pinned([]() -> Configuration& {
+          if (reader.depth > 0) {
+              ++reader.depth;
+              return *reader.pinned;
+          }
+          if (reader.slot == nullptr)
+              reader.slot = takeSlot();
+          Configuration* candidate = currentConfiguration.load(std::memory_order_seq_cst);
+          for (;;) {
+              if (candidate == nullptr)
+                  candidate = &makeFirst();
+              reader.slot->inUse.store(candidate, std::memory_order_seq_cst);
+              // Still current after the slot shows it: a reload that replaces it from now on waits.
+              Configuration* again = currentConfiguration.load(std::memory_order_seq_cst);
+              if (again == candidate)
+                  break;
+              candidate = again;
+          }
+          reader.pinned = candidate;
+          reader.depth = 1;
+          return *candidate;
+      }()) {}
 
 PinnedConfiguration::~PinnedConfiguration() {
     if (--reader.depth == 0) {

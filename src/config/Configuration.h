@@ -30,14 +30,17 @@ public:
     KesNumberingConfig* const store;
 
     /// The cache `which`, made by `make()` on first use, once, whichever threads ask at the same
-    /// time. `Object` is the cache's class; `make` may call its private constructor.
-    template <class Object, class Make> Object* cache(Cache which, Make make) {
+    /// time; `current` shows it when this configuration is the current one. `Object` is the
+    /// cache's class; `make` may call its private constructor.
+    template <class Object, class Make> Object* cache(Cache which, Object*& current, Make make) {
         if (void* made = caches[which].object.load(std::memory_order_acquire))
             return static_cast<Object*>(made);
         std::lock_guard<std::recursive_mutex> lock(lifecycle());
         if (void* made = caches[which].object.load(std::memory_order_relaxed))
             return static_cast<Object*>(made);
         Object* object = make();
+        if (this == Configuration::current())
+            current = object;
         caches[which].destroy = [](void* made) { delete static_cast<Object*>(made); };
         caches[which].object.store(object, std::memory_order_release);
         return object;

@@ -61,7 +61,8 @@ void KesNumberingConfig::resetInstance() {
 
 KesNumberingConfig::KesNumberingConfig(const std::string& configurationDirectory)
     : directory(configurationDirectory), countryCodeByNumber(new TextKeyMap<Country>),
-      countryCodeByName(new TextKeyMap<std::string>), countryRules(new TextKeyMap<Poco::AutoPtr<KesCountryRuleItem>>),
+      countryCodeByName(new TextKeyMap<std::string>),
+      countryRules(new TextKeyMap<Poco::AutoPtr<KesCountryRuleItem>>),
       countryMasks(new TextKeyMap<std::string>), specificFormatActivation(BUCKETS) {
     if (Logger::m_Traces)
         logger->debug("KesNumberingConfig()");
@@ -110,7 +111,8 @@ bool KesNumberingConfig::loadDialingRules() {
 void KesNumberingConfig::createListCountryDisplay() {
     if (Logger::m_Traces)
         logger->debug("createListCountryDisplay()");
-    countryCodeByName->forEach([this](std::string_view name, const std::string&) { countryList.emplace_back(name); });
+    countryCodeByName->forEach(
+        [this](std::string_view name, const std::string&) { countryList.emplace_back(name); });
     std::sort(countryList.begin(), countryList.end());
 }
 

@@ -48,7 +48,8 @@ public:
     Value& insert(std::string_view key, Value value) {
         if (Value* found = find(key))
             return *found;
-        Entry& entry = entries.emplace_back(Entry{std::string(key), std::move(value), hashOf(key), headOf(key)});
+        Entry& entry =
+            entries.emplace_back(Entry{std::string(key), std::move(value), hashOf(key), headOf(key)});
         const Table* current = table.load(std::memory_order_relaxed);
         if (current == nullptr || entries.size() * 2 > current->mask + 1)
             current = grow();
@@ -120,7 +121,7 @@ private:
         return &grown;
     }
 
-    std::deque<Entry> entries;                 // grows at the end; elements never move
+    std::deque<Entry> entries;                  // grows at the end; elements never move
     std::vector<std::unique_ptr<Table>> tables; // the last is in use, the others kept for readers
     std::atomic<const Table*> table{nullptr};
 };

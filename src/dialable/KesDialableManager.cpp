@@ -15,13 +15,8 @@ Logger* KesDialableManager::logger = Logger::getLogger(typeid(KesDialableManager
 KesDialableManager* KesDialableManager::getInstance() {
     if (Logger::m_Traces)
         logger->debug("getInstance()");
-    Configuration& configuration = Configuration::inUse();
-    return configuration.cache<KesDialableManager>(Configuration::STRATEGIES, [&configuration] {
-        auto* made = new KesDialableManager();
-        if (&configuration == Configuration::current())
-            instance = made;
-        return made;
-    });
+    return Configuration::inUse().cache(Configuration::STRATEGIES, instance,
+                                        [] { return new KesDialableManager(); });
 }
 
 void KesDialableManager::resetInstance() {

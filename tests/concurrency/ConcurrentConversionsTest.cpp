@@ -63,8 +63,9 @@ struct Case {
 std::vector<Case> everyCountry() {
     std::vector<Case> cases;
     for (const shipped::CountryExamples& row : shipped::exampleNumbers()) {
-        Case c{row.iso2, {row.nationalPrefix + row.fixed, "+" + row.callingCode + " " + row.fixed,
-                          row.internationalPrefix + "4989123456", "+49 89 123456", "+33 1 23 45 67 89"}};
+        Case c{row.iso2,
+               {row.nationalPrefix + row.fixed, "+" + row.callingCode + " " + row.fixed,
+                row.internationalPrefix + "4989123456", "+49 89 123456", "+33 1 23 45 67 89"}};
         if (!row.mobile.empty())
             c.numbers.push_back(row.nationalPrefix + row.mobile);
         cases.push_back(std::move(c));
@@ -135,7 +136,8 @@ namespace {
 class ConfigurationCopy {
 public:
     ConfigurationCopy(const std::string& name, const std::vector<std::pair<std::string, std::string>>& files)
-        : path(fs::temp_directory_path() / ("numbering-concurrency-" + std::to_string(getpid()) + "-" + name)) {
+        : path(fs::temp_directory_path() /
+               ("numbering-concurrency-" + std::to_string(getpid()) + "-" + name)) {
         fs::create_directories(path);
         for (const fs::directory_entry& entry : fs::directory_iterator(NUMBERING_SHIPPED_DATA))
             fs::copy_file(entry.path(), path / entry.path().filename(), fs::copy_options::overwrite_existing);
@@ -156,7 +158,7 @@ struct Conversion {
     const char* number;
 };
 const Conversion RELOADED[] = {
-    {"DE", "089123456"}, {"DE", "+49 891 23456"}, {"FR", "01 23 45 67 89"},
+    {"DE", "089123456"},       {"DE", "+49 891 23456"},     {"FR", "01 23 45 67 89"},
     {"FR", "+49 (89) 123456"}, {"GB", "+33 1 23 45 67 89"}, {"US", "+49 891 234567"},
 };
 
@@ -164,8 +166,8 @@ const Conversion RELOADED[] = {
 std::vector<std::string> convertOnce(const Conversion& c) {
     KesNumberingRules* rules = KesNumberingRules::getInstance();
     KesDialRulesItem site(c.country, "0", 4, "", 0, "");
-    return {rules->makeCanonicalNumber(&site, c.number, ""), rules->makeGSMCanonicalNumber(&site, c.number, false),
-            rules->makePhoneNumber(&site, c.number)};
+    return {rules->makeCanonicalNumber(&site, c.number, ""),
+            rules->makeGSMCanonicalNumber(&site, c.number, false), rules->makePhoneNumber(&site, c.number)};
 }
 
 /// The shipped dialing rules with another French international prefix.
@@ -187,13 +189,15 @@ std::vector<std::vector<std::string>> convertAll() {
 } // namespace
 
 TEST(ConcurrentConversions, ReloadsUnderLoadNeverMixTwoConfigurations) {
-    ConfigurationCopy a("a", {{"dlr_cnp_mask.properties", "Mask_33_1=+C (a) x xx xx xx xx\nMask_49_1=+C (A) x\n"
-                                                          "Mask_44_1=+C (A) x\nMask_1_1=+C (A) x\n"},
-                              {"tz310cnp_49.properties", "Translate=1\nAC_0000=30\nAC_0001=89\n"}});
-    ConfigurationCopy b("b", {{"dlr_cnp_mask.properties", "Mask_33_1=+C (a) xxxxxxxxx\nMask_49_1=+C (A) xx xx x\n"
-                                                          "Mask_44_1=+C (A) xx x\nMask_1_1=+C (A) xxx x\n"},
-                              {"tz310cnp_49.properties", "Translate=1\nAC_0000=30\nAC_0001=891\n"},
-                              {"dialingrules.properties", dialingRulesWithFrenchPrefix("000")}});
+    ConfigurationCopy a("a",
+                        {{"dlr_cnp_mask.properties", "Mask_33_1=+C (a) x xx xx xx xx\nMask_49_1=+C (A) x\n"
+                                                     "Mask_44_1=+C (A) x\nMask_1_1=+C (A) x\n"},
+                         {"tz310cnp_49.properties", "Translate=1\nAC_0000=30\nAC_0001=89\n"}});
+    ConfigurationCopy b("b",
+                        {{"dlr_cnp_mask.properties", "Mask_33_1=+C (a) xxxxxxxxx\nMask_49_1=+C (A) xx xx x\n"
+                                                     "Mask_44_1=+C (A) xx x\nMask_1_1=+C (A) xxx x\n"},
+                         {"tz310cnp_49.properties", "Translate=1\nAC_0000=30\nAC_0001=891\n"},
+                         {"dialingrules.properties", dialingRulesWithFrenchPrefix("000")}});
     KesNumberingRules::reload(a.directory());
     const auto inA = convertAll();
     KesNumberingRules::reload(b.directory());
@@ -234,7 +238,8 @@ TEST(ConcurrentConversions, ReloadsUnderLoadNeverMixTwoConfigurations) {
     for (std::thread& thread : threads)
         thread.join();
 
-    EXPECT_TRUE(unexpected.empty()) << unexpected.size() << " mixed results, the first: " << unexpected.front();
+    EXPECT_TRUE(unexpected.empty()) << unexpected.size()
+                                    << " mixed results, the first: " << unexpected.front();
     EXPECT_GT(conversions.load(), THREADS);
     std::cout << conversions.load() << " numbers converted during 100 reloads\n";
     EXPECT_EQ(convertAll(), inB) << "the last reload read the second directory";
