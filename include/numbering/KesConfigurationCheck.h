@@ -51,9 +51,10 @@ struct NUMBERING_API KesConfigurationReport {
 ///
 /// @code
 /// numbering::KesConfigurationReport report = numbering::KesConfigurationCheck::check("/etc/numbering/");
-/// for (const numbering::KesConfigurationFinding& f : report.findings)
-///     std::cerr << f.file << ":" << f.line << ": "
-///               << numbering::KesConfigurationFinding::severityName(f.severity) << ": " << f.message << "\n";
+/// for (const numbering::KesConfigurationFinding& f : report.findings) {
+///     const char* severity = numbering::KesConfigurationFinding::severityName(f.severity);
+///     std::cerr << f.file << ":" << f.line << ": " << severity << ": " << f.message << "\n";
+/// }
 /// if (report.status() < 2)
 ///     numbering::KesNumberingRules::reload("/etc/numbering/");
 /// @endcode
