@@ -49,6 +49,7 @@ public:
 
     /// Live trees, for leak diagnostics.
     static int _count;
+    /// The tree's traces.
     static Logger* logger;
 
 private:

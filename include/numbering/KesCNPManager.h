@@ -42,6 +42,7 @@ public:
     /// The current configuration's cache, if one was made, for inspection only: it changes with
     /// every reload, so reach the cache through getInstance().
     static KesCNPManager* instance;
+    /// The cache's traces and errors.
     static Logger* logger;
 
 private:

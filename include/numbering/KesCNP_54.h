@@ -34,11 +34,12 @@ public:
 
     static std::string PREFIX_MOBILE_NATIONAL;
     static std::string PREFIX_MOBILE_INTERNATIONAL;
+    /// The plan's traces.
     static Logger* logger;
     /// "tz310cnp_54.properties" and "tz310cnp_54_default.properties" in the directory of the library's start;
     /// the plan reads these names in the directory of the configuration in use.
     static std::string AREA_CODES_FILE;
-    static std::string AREA_CODES_DEFAULT_FILE;
+    static std::string AREA_CODES_DEFAULT_FILE; ///< read when the installation file cannot be opened
 
 private:
     bool strip(const std::string& number, KesDialRulesItem* rules, StrippedNumber& split);

@@ -29,6 +29,7 @@ public:
     virtual bool isAreaCode(std::string s);
     virtual std::string ToString();
 
+    /// The tree's traces.
     static Logger* logger;
 
     KesCharsTreeElement root;

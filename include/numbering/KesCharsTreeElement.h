@@ -54,6 +54,7 @@ public:
 
     /// Live nodes, for leak diagnostics.
     static int _count;
+    /// The tree's traces.
     static Logger* logger;
 
     char character;

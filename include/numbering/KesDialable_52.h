@@ -20,6 +20,7 @@ public:
     static std::string PREFIX_MOBILE;
     static std::string PREFIX_MOBILE_LOCAL;
     static std::string PREFIX_MOBILE_DISTANT;
+    /// The strategy's traces.
     static Logger* logger;
 };
 

@@ -37,6 +37,7 @@ public:
     static std::string MOBILE_PREFIX;
     static std::string DEFAULT_OP_PREFIX;
     static std::string OP_DEFAULT_KEY;
+    /// The strategy's traces.
     static Logger* logger;
 
 private:
