@@ -28,8 +28,8 @@ class KesNumberingConfig;
 /// @code
 /// numbering::KesNumberingRules::reload("/etc/numbering/"); // before the first getInstance()
 /// numbering::KesNumberingRules* rules = numbering::KesNumberingRules::getInstance();
-/// numbering::KesDialRulesItem paris("FR", "0", 5, "1", 0, "");
-/// std::string canonical = rules->makeCanonicalNumber(&paris, "0123456789", ""); // "+33 (1) 23456789"
+/// numbering::KesDialRulesItem paris("FR", "0", 0, "1", 0, "");
+/// std::string canonical = rules->makeCanonicalNumber(&paris, "0123456789", ""); // "+33 (0) 1 23 45 67 89"
 /// std::string dialled = rules->makePhoneNumber(&paris, canonical);             // "00123456789"
 /// @endcode
 class NUMBERING_API KesNumberingRules {
@@ -41,7 +41,7 @@ public:
     ///
     /// @code
     /// numbering::KesNumberingRules* rules = numbering::KesNumberingRules::getInstance();
-    /// std::vector<std::string> names = rules->getCountryList(); // "Allemagne", "France", ...
+    /// std::vector<std::string> names = rules->getCountryList(); // sorted: ..., "France", "Germany", ...
     /// @endcode
     static KesNumberingRules* getInstance();
     /// Tears down the plan cache, the strategy cache, the configuration store and the facade, in
@@ -76,9 +76,11 @@ public:
     virtual std::string getCountryName(std::string countryCode);
     /// The two-letter code of the calling code `countryNumber` ("33" gives "FR"), or "".
     virtual std::string getCountryCodeFromNumber(std::string countryNumber);
-    /// The canonical number in GSM form, "+" and digits only (an Italian number keeps one blank:
+    /// The canonical number in GSM form, "+" and digits only ("+390612345678"); a canonical form
+    /// without parentheses keeps its blank ("0612345678" at an Italian installation gives
     /// "+39 0612345678"); local numbers and service codes come back as the canonical conversion
-    /// left them, a failed conversion as "". `withExternalPrefix` as for makeCanonicalNumber.
+    /// left them, a failed conversion as "". `withExternalPrefix` and the exceptions as for
+    /// makeCanonicalNumber.
     virtual std::string makeGSMCanonicalNumber(KesDialRulesItem* myKesDialRulesItem,
                                                std::string strPhoneNumber, bool withExternalPrefix);
     /// makeCanonicalNumber(myKesDialRulesItem, strPhoneNumber, strPattern, false): the number as
@@ -106,6 +108,7 @@ public:
     /// @endcode
     virtual std::string makePhoneNumber(KesDialRulesItem* myKesDialRulesItem, std::string strPhoneNumber);
     /// Like makePhoneNumber for canonical input; any other number is only checked and prefixed.
+    /// std::invalid_argument for a null item or an empty number.
     virtual std::string addExternalPrefix(KesDialRulesItem* myKesDialRulesItem, std::string strPhoneNumber);
     /// A new caller identity owned by the caller, or null when the number cannot be converted:
     /// INTERNATIONAL with calling code, area and subscriber digits for another country, NATIONAL
