@@ -111,10 +111,11 @@ public:
     /// std::invalid_argument for a null item or an empty number.
     virtual std::string addExternalPrefix(KesDialRulesItem* myKesDialRulesItem, std::string strPhoneNumber);
     /// A new caller identity owned by the caller, or null when the number cannot be converted:
-    /// INTERNATIONAL with calling code, area and subscriber digits for another country, NATIONAL
-    /// with the area code (none behind the national prefix), PUBLIC_1 with the subscriber digits
-    /// inside the installation's own area, PRIVATE_1 for a number left as it was (an internal
-    /// number, a service code). std::invalid_argument for a null item or an empty number.
+    /// INTERNATIONAL with calling code, area code (unless it is the installation's national prefix)
+    /// and subscriber digits for another country; NATIONAL with the area code (none behind the
+    /// national prefix); PUBLIC_1 with the subscriber digits inside the installation's own area;
+    /// PRIVATE_1 for a number left as it was (an internal number, a service code).
+    /// std::invalid_argument for a null item or an empty number.
     ///
     /// @code
     /// Poco::AutoPtr<numbering::KesClid> clid(rules->makeClid(&paris, "+49 (89) 123456"));
