@@ -1,14 +1,14 @@
 #!/usr/bin/env bash
 # Sets up a fresh Debian 12 machine (as root) with what the build needs, then builds and runs every
 # test of the library three ways: the normal build (with the checks of what is shipped: exported
-# symbols, prefix install, Debian packages under lintian, generated configuration), the whole suite
-# under AddressSanitizer and UBSan (with a short run of each fuzzer), and the concurrency test under
-# ThreadSanitizer.
+# symbols, prefix install, Debian packages under lintian, generated configuration, and the API
+# reference without a Doxygen warning), the whole suite under AddressSanitizer and UBSan (with a short
+# run of each fuzzer), and the concurrency test under ThreadSanitizer.
 set -euo pipefail
 cd "$(dirname "$0")/.."
 
 bash tools/install-packages.sh cmake make g++ clang libclang-rt-14-dev pkg-config python3 scdoc groff-base \
-  libpoco-dev libgtest-dev libgmock-dev libbenchmark-dev dpkg-dev file lintian
+  libpoco-dev libgtest-dev libgmock-dev libbenchmark-dev dpkg-dev file lintian doxygen
 
 jobs=$(nproc)
 fuzz_seconds=${NUMBERING_FUZZ_SECONDS:-30}
@@ -17,6 +17,7 @@ echo "== normal build"
 cmake -S . -B build -DCMAKE_BUILD_TYPE=RelWithDebInfo -DNUMBERING_BUILD_BENCH=ON >/dev/null
 cmake --build build -j"$jobs"
 ctest --test-dir build -j"$jobs" --output-on-failure
+cmake --build build --target docs # the API reference: any Doxygen warning fails the build
 
 echo "== AddressSanitizer and UBSan build, with the fuzzers"
 CXX=clang++ cmake -S . -B build-sanitize -DCMAKE_BUILD_TYPE=Debug -DNUMBERING_SANITIZE=address,undefined \

@@ -23,12 +23,12 @@ class NUMBERING_API KesAreaCodePlan : public KesCNP {
 public:
     /// What tells one plan's file reading from another's.
     struct PlanFile {
-        const char* installationFile; // names in the configuration directory
-        const char* defaultFile;
-        const char* textWhenUnopenable; // info text when Poco cannot open the installation file
-        const char* textWhenNotFound;   // info text when the installation file does not exist
-        const char* planName;           // "KesCNP_49": constructor trace and tag of the reading traces
-        bool readsTranslate;
+        const char* installationFile;   ///< name in the configuration directory
+        const char* defaultFile;        ///< read when the installation file cannot be opened
+        const char* textWhenUnopenable; ///< info text when Poco cannot open the installation file
+        const char* textWhenNotFound;   ///< info text when the installation file does not exist
+        const char* planName;           ///< "KesCNP_49": constructor trace and tag of the reading traces
+        bool readsTranslate;            ///< whether the file's "Translate" key is read
     };
 
     /// Where a national number begins with no known area code (two-pass plans).
@@ -36,9 +36,10 @@ public:
         OwnAreaCodeInFront, // the installation's area code goes in front of the whole national number
         FirstFourDigits     // the first four digits are taken as the area code
     };
+    /// What tells one two-pass plan's conversion from another's.
     struct TwoPassRules {
-        const char* head;
-        UnknownAreaCode unknownAreaCode;
+        const char* head;                ///< the start of every canonical number, "+49 ("
+        UnknownAreaCode unknownAreaCode; ///< where a number with no known area code is split
     };
     /// Which numbers without national prefix are completed with the installation's area code.
     enum class LocalRule { AnyFirstDigit, FirstDigitTwoToNine, None };
@@ -47,12 +48,13 @@ public:
         NationalPrefixInParentheses, // "+31 (0) " + national number
         FirstTwoDigits               // the first two digits in parentheses, the rest behind
     };
+    /// What tells one one-pass plan's conversion from another's.
     struct OnePassRules {
-        const char* head;
-        std::size_t minimumLength;
-        LocalRule localRule;
-        UnknownAreaForm unknownAreaForm;
-        const char* closingTrace;
+        const char* head;                ///< the start of every canonical number, "+31 ("
+        std::size_t minimumLength;       ///< shorter numbers come back unchanged
+        LocalRule localRule;             ///< which numbers without national prefix are completed
+        UnknownAreaForm unknownAreaForm; ///< how a number with no known area code is written
+        const char* closingTrace;        ///< the trace text in front of the result
     };
 
     ~KesAreaCodePlan() override;
@@ -64,6 +66,7 @@ public:
     int maxAreaCodeLength;
     /// The "AC_" keys read, repeated codes included.
     int areaCodeCount;
+    /// The area codes read (empty when no file could be read).
     Poco::AutoPtr<KesAreaCodeTree> areaCodeTree;
 
 protected:

@@ -37,8 +37,11 @@ public:
     virtual bool insert(std::string strDigits);
     /// The longest stored area code that begins `number`, or "".
     virtual std::string extractAreaCode(std::string number);
+    /// The tree as text, as KesCharsTreeElement::ToString(int) writes it.
     virtual std::string ToString();
+    /// Takes one more reference.
     virtual void duplicate();
+    /// Drops one reference; the last one deletes the object.
     virtual void release();
 
     /// The length of extractAreaCode(number), without building any string.
@@ -49,6 +52,7 @@ public:
 
     /// Live trees, for leak diagnostics.
     static int _count;
+    /// The tree's traces.
     static Logger* logger;
 
 private:

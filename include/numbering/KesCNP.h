@@ -21,7 +21,9 @@ public:
     /// The canonical form of `number` (digits as dialled at the installation described by `rules`),
     /// or `number` unchanged. `rules` must not be null.
     virtual std::string dlr_Country_MakeCanonicalNumber(std::string number, KesDialRulesItem* rules) = 0;
+    /// Takes one more reference.
     virtual void duplicate();
+    /// Drops one reference; the last one deletes the object.
     virtual void release();
 
     /// Live plans of every country, for leak diagnostics.

@@ -37,11 +37,13 @@ public:
 
     /// Builds, caches and returns the plan of `country` (called by getCNP under the mutex).
     KesCNP* loadCNPClass(std::string country);
+    /// Whether `country` is remembered as one without a plan.
     bool isCountryNotFound(std::string country);
 
     /// The current configuration's cache, if one was made, for inspection only: it changes with
     /// every reload, so reach the cache through getInstance().
     static KesCNPManager* instance;
+    /// The cache's traces and errors.
     static Logger* logger;
 
 private:

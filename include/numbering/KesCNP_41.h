@@ -22,6 +22,7 @@ public:
     /// National free-phone prefix.
     static constexpr char szFreePhonePfx[] = "0800";
 
+    /// The plan's traces.
     static Logger* logger;
 };
 

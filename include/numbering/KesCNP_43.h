@@ -22,11 +22,12 @@ public:
     /// Self-test: converts a fixed list of numbers for a fixed installation and prints them.
     static void main(std::string* args);
 
+    /// The plan's traces.
     static Logger* logger;
     /// "tz310cnp_43.properties" and "tz310cnp_43_default.properties" in the directory of the library's start;
     /// the plan reads these names in the directory of the configuration in use.
     static std::string AREA_CODES_FILE;
-    static std::string AREA_CODES_DEFAULT_FILE;
+    static std::string AREA_CODES_DEFAULT_FILE; ///< read when the installation file cannot be opened
 };
 
 } // namespace numbering

@@ -19,11 +19,12 @@ public:
 
     std::string dlr_Country_MakeCanonicalNumber(std::string number, KesDialRulesItem* rules) override;
 
+    /// The plan's traces.
     static Logger* logger;
     /// "tz310cnp_44.properties" and "tz310cnp_44_default.properties" in the directory of the library's start;
     /// the plan reads these names in the directory of the configuration in use.
     static std::string AREA_CODES_FILE;
-    static std::string AREA_CODES_DEFAULT_FILE;
+    static std::string AREA_CODES_DEFAULT_FILE; ///< read when the installation file cannot be opened
 };
 
 } // namespace numbering

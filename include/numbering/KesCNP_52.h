@@ -26,11 +26,12 @@ public:
     /// two-digit area codes 55, 56, 33 or 81.
     virtual bool isTwoDigitsAreaCode(std::string number);
 
+    /// The plan's traces.
     static Logger* logger;
     /// "tz310cnp_52.properties" and "tz310cnp_52_default.properties" in the directory of the library's start;
     /// the plan reads these names in the directory of the configuration in use.
     static std::string AREA_CODES_FILE;
-    static std::string AREA_CODES_DEFAULT_FILE;
+    static std::string AREA_CODES_DEFAULT_FILE; ///< read when the installation file cannot be opened
 
 private:
     bool place(std::string_view number, KesDialRulesItem* rules, std::string& result);

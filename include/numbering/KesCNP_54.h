@@ -18,9 +18,9 @@ class NUMBERING_API KesCNP_54 : public KesAreaCodePlan {
 public:
     /// The split of a number. StripNbr makes it on the heap; the caller deletes it.
     struct StrippedNumber {
-        std::string area;
-        std::string number; // without any prefix or mobile marker
-        bool mobile = false;
+        std::string area;    ///< the area code
+        std::string number;  ///< without any prefix or mobile marker
+        bool mobile = false; ///< the number carried a mobile marker
     };
 
     KesCNP_54();
@@ -32,13 +32,14 @@ public:
     /// split (longer than 15 characters, a "9" not followed by a known area code, no `rules`).
     StrippedNumber* StripNbr(std::string number, KesDialRulesItem* rules);
 
-    static std::string PREFIX_MOBILE_NATIONAL;
-    static std::string PREFIX_MOBILE_INTERNATIONAL;
+    static std::string PREFIX_MOBILE_NATIONAL;      ///< "15", between area code and subscriber number
+    static std::string PREFIX_MOBILE_INTERNATIONAL; ///< "9", between calling code and area code
+    /// The plan's traces.
     static Logger* logger;
     /// "tz310cnp_54.properties" and "tz310cnp_54_default.properties" in the directory of the library's start;
     /// the plan reads these names in the directory of the configuration in use.
     static std::string AREA_CODES_FILE;
-    static std::string AREA_CODES_DEFAULT_FILE;
+    static std::string AREA_CODES_DEFAULT_FILE; ///< read when the installation file cannot be opened
 
 private:
     bool strip(const std::string& number, KesDialRulesItem* rules, StrippedNumber& split);

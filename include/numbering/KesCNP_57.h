@@ -21,11 +21,12 @@ public:
 
     std::string dlr_Country_MakeCanonicalNumber(std::string number, KesDialRulesItem* rules) override;
 
+    /// The plan's traces.
     static Logger* logger;
     /// The Colombian plan files. The plan does not open them: the operator prefixes they hold are
     /// read by the Colombian dialing strategy.
     static std::string CNP_FILE;
-    static std::string CNP_DEFAULT_FILE;
+    static std::string CNP_DEFAULT_FILE; ///< read by nothing: the strategy has no default file
 };
 
 } // namespace numbering

@@ -19,6 +19,7 @@ public:
 
     std::string dlr_Country_MakeCanonicalNumber(std::string number, KesDialRulesItem* rules) override;
 
+    /// The plan's traces.
     static Logger* logger;
 };
 

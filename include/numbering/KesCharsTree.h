@@ -17,6 +17,7 @@ public:
     KesCharsTree();
     /// Copies are deep: the two trees share no node.
     KesCharsTree(const KesCharsTree& other) = default;
+    /// Deep, as the copy.
     KesCharsTree& operator=(const KesCharsTree& other) = default;
     virtual ~KesCharsTree();
 
@@ -24,13 +25,17 @@ public:
     virtual void insert(std::string code);
     /// The longest prefix of `s` that is a path from the root, flagged or not.
     virtual std::string isPresent(std::string s);
+    /// The longest prefix of `s` that is a path from the node `from`.
     virtual std::string isPresent(std::string s, KesCharsTreeElement& from);
     /// True when `s` is exactly a stored code.
     virtual bool isAreaCode(std::string s);
+    /// The tree as text (see KesCharsTreeElement::ToString(int)).
     virtual std::string ToString();
 
+    /// The tree's traces.
     static Logger* logger;
 
+    /// The root node, character 0.
     KesCharsTreeElement root;
 };
 

@@ -10,16 +10,17 @@ namespace numbering {
 
 /// One thing the configuration check found in a file.
 struct NUMBERING_API KesConfigurationFinding {
+    /// How much a finding matters.
     enum class Severity {
-        Note,    // how the library reads something, worth knowing
-        Warning, // something the library ignores or reads differently from how it looks
-        Error    // the library loses data, or numbers are converted or dialled wrongly
+        Note,    ///< how the library reads something, worth knowing
+        Warning, ///< something the library ignores or reads differently from how it looks
+        Error    ///< the library loses data, or numbers are converted or dialled wrongly
     };
-    Severity severity;
-    std::string file;    // the file's path
-    std::string key;     // the key it is about; "" for the file as a whole
-    int line;            // 1-based line of the key, 0 when it cannot be told
-    std::string message; // for the installer: what the library does, and what that means
+    Severity severity;   ///< how much it matters
+    std::string file;    ///< the file's path
+    std::string key;     ///< the key it is about; "" for the file as a whole
+    int line;            ///< 1-based line of the key, 0 when it cannot be told
+    std::string message; ///< for the installer: what the library does, and what that means
 
     /// "note", "warning" or "error".
     static const char* severityName(Severity severity);
@@ -28,15 +29,15 @@ struct NUMBERING_API KesConfigurationFinding {
 /// One configuration file as the library reads it: the installation file, or its default when the
 /// installation file cannot be opened (the two are never merged).
 struct NUMBERING_API KesConfigurationFile {
-    std::string installationFile;
-    std::string defaultFile; // "" when the library reads no default (the Colombian operators)
-    std::string inUse;       // the file the library reads; "" when it reads neither
+    std::string installationFile; ///< the installation's file, read first
+    std::string defaultFile;      ///< "" when the library reads no default (the Colombian operators)
+    std::string inUse;            ///< the file the library reads; "" when it reads neither
 };
 
 /// What the check found in a configuration directory.
 struct NUMBERING_API KesConfigurationReport {
-    std::vector<KesConfigurationFile> files; // every file the library would read, in reading order
-    std::vector<KesConfigurationFinding> findings;
+    std::vector<KesConfigurationFile> files;       ///< every file the library would read, in reading order
+    std::vector<KesConfigurationFinding> findings; ///< what was found, file by file
 
     /// 0 when nothing or only notes were found, 1 with warnings, 2 with errors.
     int status() const;
@@ -47,9 +48,20 @@ struct NUMBERING_API KesConfigurationReport {
 /// area codes it never finds, countries whose numbers would lose their calling code. Changes no
 /// file and builds nothing the library's conversions use, so a host may run it on any thread while
 /// conversions go on, for instance to refuse a directory before KesNumberingRules::reload(directory).
+///
+/// @code
+/// numbering::KesConfigurationReport report = numbering::KesConfigurationCheck::check("/etc/numbering/");
+/// for (const numbering::KesConfigurationFinding& f : report.findings) {
+///     const char* severity = numbering::KesConfigurationFinding::severityName(f.severity);
+///     std::cerr << f.file << ":" << f.line << ": " << severity << ": " << f.message << "\n";
+/// }
+/// if (report.status() < 2)
+///     numbering::KesNumberingRules::reload("/etc/numbering/");
+/// @endcode
 class NUMBERING_API KesConfigurationCheck {
 public:
-    /// Checks `directory` (with or without a final "/").
+    /// Checks `directory` (with or without a final "/"). Throws nothing for missing or unreadable
+    /// files: they are findings.
     static KesConfigurationReport check(const std::string& directory);
     /// Checks the directory of the configuration in use (KesNumberingConfig::configDirectory()).
     static KesConfigurationReport check();

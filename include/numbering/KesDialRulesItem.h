@@ -23,20 +23,33 @@ public:
                      int exceptNbLength, std::string exceptNbBegin);
     virtual ~KesDialRulesItem();
 
+    /// Validates `code` as the constructor does (same exceptions) and makes it the country.
     virtual void setCountryId(std::string code);
+    /// The two-letter country code ("FR").
     virtual std::string getCountryId() { return countryId; }
+    /// Sets the prefix that seizes an outside line (not validated).
     virtual void setExtPrefix(std::string prefix) { extPrefix = std::move(prefix); }
+    /// The prefix that seizes an outside line, or "".
     virtual std::string getExtPrefix() { return extPrefix; }
+    /// Sets the local number length; a negative length becomes 0.
     virtual void setLocalNbLength(int length) { localNbLength = length < 0 ? 0 : length; }
+    /// Numbers shorter than this are internal (0: none is).
     virtual int getLocalNbLength() { return localNbLength; }
     /// Comma-separated codes; the first becomes the main area code. An empty text clears only the
     /// main area code and keeps the list.
     virtual void setAreaCode(std::string codes);
+    /// The main area code, or "".
     virtual std::string getAreaCode() { return areaCode; }
+    /// Every own area code, the main one first.
     virtual std::vector<std::string>& getAreaCodesList() { return m_areaCodesList; }
+    /// Sets the exception number length. Unlike setLocalNbLength it tests the length already held,
+    /// not `length`, so a negative `length` is stored as given.
     virtual void setExceptNbLength(int length);
+    /// The exception number length (informative: no conversion reads it).
     virtual int getExceptNbLength() { return exceptNbLength; }
+    /// Sets the leading digits of the numbers dialled without the outside-line prefix.
     virtual void setExceptNbBegin(std::string begin) { exceptNbBegin = std::move(begin); }
+    /// The leading digits of the numbers dialled without the outside-line prefix, or "".
     virtual std::string getExceptNbBegin() { return exceptNbBegin; }
     /// Shorter than the local number length.
     virtual bool isLocalNumber(std::string number);
@@ -45,6 +58,7 @@ public:
     /// All fields on one line, closed by a NUL character that is part of the text.
     virtual std::string ToString();
 
+    /// The item's traces.
     static Logger* logger;
 
 private:

@@ -20,23 +20,34 @@ class KesDialRulesItem;
 /// letters cannot express have subclasses. The country rule passed is always the installation's.
 class NUMBERING_API KesDialable {
 public:
+    /// The generic strategy, with one reference held by the caller.
     KesDialable();
     virtual ~KesDialable();
 
+    /// A number of another country: the installation's international prefix, then the destination's
+    /// calling code `country` under an "E" rule, then under an "F" rule the area code (empty when it
+    /// is only the destination's national prefix), then `number`. Never fails.
     virtual std::string makeInternationalDialableNumber(std::string& country, std::string& areaNatPfx,
                                                         std::string& number, KesCountryRuleItem* countryRule);
+    /// A number of the installation's country outside its own areas: `number` shaped by the
+    /// long-distance rule ("F" prefix and area code, "I" prefix alone, empty: the number alone).
     virtual std::string makeLongDistDialableNumber(std::string& areaNatPfx, std::string& number,
                                                    KesCountryRuleItem* countryRule,
                                                    KesDialRulesItem* dialRules);
+    /// A number inside the installation's own areas, shaped by the local rule as
+    /// makeLongDistDialableNumber is by the long-distance one.
     virtual std::string makeLocalDialableNumber(std::string& areaNatPfx, std::string& number,
                                                 KesCountryRuleItem* countryRule);
+    /// Takes one more reference.
     virtual void duplicate();
+    /// Drops one reference; the last one deletes the object.
     virtual void release();
     /// The operator (carrier) prefix that `number` begins with; none in the generic strategy.
     virtual std::string extractOperatorPrefix(std::string number);
 
     /// Live strategies of every country, for leak diagnostics.
     static int _count;
+    /// The strategy's traces.
     static Logger* logger;
 
 protected:

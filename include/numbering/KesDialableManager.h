@@ -39,6 +39,7 @@ public:
     /// The current configuration's cache, if one was made, for inspection only: it changes with
     /// every reload, so reach the cache through getInstance().
     static KesDialableManager* instance;
+    /// The cache's traces and errors.
     static Logger* logger;
 
 private:

@@ -17,9 +17,10 @@ public:
                                            KesCountryRuleItem* countryRule,
                                            KesDialRulesItem* dialRules) override;
 
-    static std::string PREFIX_MOBILE;
-    static std::string PREFIX_MOBILE_LOCAL;
-    static std::string PREFIX_MOBILE_DISTANT;
+    static std::string PREFIX_MOBILE;         ///< "1", in front of a mobile number's area code
+    static std::string PREFIX_MOBILE_LOCAL;   ///< "044", a mobile inside the installation's own area
+    static std::string PREFIX_MOBILE_DISTANT; ///< "045", a mobile elsewhere
+    /// The strategy's traces.
     static Logger* logger;
 };
 

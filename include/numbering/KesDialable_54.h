@@ -29,6 +29,7 @@ public:
                                                   KesCountryRuleItem* countryRule,
                                                   KesDialRulesItem* dialRules);
 
+    /// The strategy's traces.
     static Logger* logger;
 };
 

@@ -33,10 +33,11 @@ public:
     /// The longest known operator prefix that `number` begins with, or "".
     std::string extractOperatorPrefix(std::string number) override;
 
-    static char MOBILE_OP_START_WITH;
-    static std::string MOBILE_PREFIX;
-    static std::string DEFAULT_OP_PREFIX;
-    static std::string OP_DEFAULT_KEY;
+    static char MOBILE_OP_START_WITH;     ///< '3', the first digit of a mobile number
+    static std::string MOBILE_PREFIX;     ///< "3", dialled after the prefix for a mobile number
+    static std::string DEFAULT_OP_PREFIX; ///< "9", the operator when the file names none
+    static std::string OP_DEFAULT_KEY;    ///< "OP_DEFAULT", the key of the default operator
+    /// The strategy's traces.
     static Logger* logger;
 
 private:

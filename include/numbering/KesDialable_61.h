@@ -16,6 +16,7 @@ public:
                                            KesCountryRuleItem* countryRule,
                                            KesDialRulesItem* dialRules) override;
 
+    /// The strategy's traces.
     static Logger* logger;
 };
 

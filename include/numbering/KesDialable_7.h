@@ -18,6 +18,7 @@ public:
                                            KesCountryRuleItem* countryRule,
                                            KesDialRulesItem* dialRules) override;
 
+    /// The strategy's traces.
     static Logger* logger;
 };
 

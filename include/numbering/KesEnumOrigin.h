@@ -10,11 +10,11 @@ namespace numbering {
 /// five static values, which are made in this order during static initialisation (ids 1 to 5).
 class NUMBERING_API KesEnumOrigin : public TypesafeEnum {
 public:
-    static KesEnumOrigin ANY;
-    static KesEnumOrigin INTERNATIONAL;
-    static KesEnumOrigin NATIONAL;
-    static KesEnumOrigin PRIVATE_1;
-    static KesEnumOrigin PUBLIC_1;
+    static KesEnumOrigin ANY;           ///< not told (a caller identity made empty)
+    static KesEnumOrigin INTERNATIONAL; ///< in another country
+    static KesEnumOrigin NATIONAL;      ///< in the installation's country, outside its own area
+    static KesEnumOrigin PRIVATE_1;     ///< not converted: an internal number or a service code
+    static KesEnumOrigin PUBLIC_1;      ///< in the installation's own area
 
 private:
     explicit KesEnumOrigin(std::string name) : TypesafeEnum(std::move(name)) {}

@@ -38,13 +38,23 @@ public:
 
     virtual ~KesNumberingConfig();
 
+    /// Whether the country's own layout applies to the calling code `countryNumber`: true unless a
+    /// switch says otherwise, and for an empty code. Every switch of the file is filed under 0 (the
+    /// first one read stays), so only a calling code that reads as 0 ever meets one.
     virtual bool isSpecificFormatActiveForCountry(std::string countryNumber);
+    /// The display mask of the calling code `countryNumber` ("+C (A) x xx xx xx xx" for "33"), or "".
     virtual std::string getDefaultPattern(std::string countryNumber);
+    /// The country names of the dialing rules, sorted. Owned by the store.
     virtual std::vector<std::string>& getCountryList();
+    /// The two-letter code of the country named exactly `name`, or "" (also for an empty name).
     virtual std::string getCountryCodeFromName(std::string name);
+    /// The two-letter code of the primary calling code `number` ("33" gives "FR"), or "".
     virtual std::string getCountryCodeFromNumber(std::string number);
+    /// The name of the two-letter code `code`, or "".
     virtual std::string getCountryName(std::string code);
+    /// The calling code of the two-letter code `code` ("FR" gives "33"), or "".
     virtual std::string getCountryNumber(std::string code);
+    /// Whether the dialing rules hold a row for the two-letter code `code` (case matters).
     virtual bool validCountryCode(std::string code);
     /// The record of `code`, or null. The store keeps ownership: do not release it.
     virtual KesCountryRuleItem* getCountryRule(std::string code);
@@ -65,9 +75,18 @@ public:
     /// As getDefaultPattern.
     const std::string* findDefaultPattern(std::string_view countryNumber) const;
 
+    // The reading steps of the constructor, in this order. Each logs an error and answers false
+    // when reading stops at a failure, and keeps what it read before it.
+
+    /// Reads "dialingrules.properties", else its default: one row per two-letter code.
     bool loadDialingRules();
+    /// Fills the country list from the names read by loadDialingRules().
     void createListCountryDisplay();
+    /// Reads the display masks ("Mask_<calling code>_..." keys) of "dlr_cnp_mask.properties", else
+    /// its default.
     bool loadCountryMasks();
+    /// Reads the "cnp_<calling code>" switches of "specific_format_activation.properties", else its
+    /// default.
     bool loadSpecificFormatActivation();
 
     /// The directory the configuration in use was read from (with a trailing "/"): the one given to
@@ -80,19 +99,22 @@ public:
     /// The current store (null when none is loaded), for inspection only: it changes with every
     /// reload, so read the store through getInstance().
     static KesNumberingConfig* instance;
+    /// The store's log lines: reading errors and traces.
     static Logger* logger;
 
+    /// A canonical number of this many characters (30) or more is never made dialable.
     static int MAX_PHONE_NUMBER_LENGTH;
+    /// The longest calling code, 3 digits.
     static int MAX_COUNTRY_NUMBER_LENGTH;
 
     /// The file names in the directory of the library's start; a store reads the same names in
     /// its own directory.
     static std::string DIALING_RULES_FILE;
-    static std::string DIALING_RULES_DEFAULT_FILE;
-    static std::string COUNTRY_MASKS_FILE;
-    static std::string COUNTRY_MASKS_DEFAULT_FILE;
-    static std::string SPECIFIC_FORMAT_FILE;
-    static std::string SPECIFIC_FORMAT_DEFAULT_FILE;
+    static std::string DIALING_RULES_DEFAULT_FILE;   ///< read when DIALING_RULES_FILE cannot be opened
+    static std::string COUNTRY_MASKS_FILE;           ///< the display masks
+    static std::string COUNTRY_MASKS_DEFAULT_FILE;   ///< read when COUNTRY_MASKS_FILE cannot be opened
+    static std::string SPECIFIC_FORMAT_FILE;         ///< the specific-format switches
+    static std::string SPECIFIC_FORMAT_DEFAULT_FILE; ///< read when SPECIFIC_FORMAT_FILE cannot be opened
 
 private:
     friend class Configuration;

@@ -25,13 +25,17 @@ public:
 
     virtual ~Logger();
 
+    /// Writes a "DEBUG" line; callers test m_Traces first.
     void debug(std::string message);
+    /// Writes an "INFO" line.
     void info(std::string message);
+    /// Writes an "ERROR" line.
     void error(std::string message);
     /// An error line whose `continuation` follows on a line of its own, escaped in the same way:
     /// the one real line break a log line may hold.
     void error(std::string message, std::string continuation);
 
+    /// The name on every line (the compiler's type name of the owning class).
     std::string name;
 
 private:

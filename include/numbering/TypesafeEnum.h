@@ -9,16 +9,23 @@
 /// taken from a counter in construction order. Values compare by id only.
 class NUMBERING_API TypesafeEnum {
 public:
+    /// A new value named `name`, with the next id.
     explicit TypesafeEnum(std::string name);
     virtual ~TypesafeEnum();
 
+    /// Same id.
     bool operator==(const TypesafeEnum& other) const { return id == other.id; }
+    /// Different ids.
     bool operator!=(const TypesafeEnum& other) const { return id != other.id; }
+    /// Made earlier.
     bool operator<(const TypesafeEnum& other) const { return id < other.id; }
 
+    /// Unique across all values, from 1 in construction order.
     int id;
+    /// The display name ("INTERNATIONAL").
     std::string name;
 
+    /// The id of the next value made.
     static int next_id;
 };
 
