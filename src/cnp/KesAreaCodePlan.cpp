@@ -1,6 +1,7 @@
 #include "numbering/KesAreaCodePlan.h"
 
 #include "config/PropertyFiles.h"
+#include "config/PropertyRules.h"
 #include "numbering/KesDialRulesItem.h"
 #include "numbering/KesNumberingConfig.h"
 #include "numbering/Logger.h"
@@ -27,7 +28,7 @@ void KesAreaCodePlan::loadAreaCodes(const PlanFile& file, Logger* planLogger) {
                                KesNumberingConfig::configFile(file.defaultFile), planLogger,
                                file.textWhenUnopenable, file.textWhenNotFound);
         if (file.readsTranslate)
-            translate = properties->getString("Translate") == "1";
+            translate = translateOn(properties->getString("Translate"));
         // The list ends at the first missing key (a gap included), by exception like a normal file.
         properties->forEachIndexedValue("AC_", [this](std::string_view value) {
             std::string digits = leadingDigits(value);

@@ -2,12 +2,10 @@
 
 #include "Configuration.h"
 #include "PropertyFiles.h"
+#include "PropertyRules.h"
 #include "TextKeyMap.h"
 #include "numbering/Logger.h"
 #include "numbering/number_format_exception.h"
-
-#include <Poco/String.h>
-#include <Poco/StringTokenizer.h>
 
 #include <algorithm>
 #include <cstdlib>
@@ -88,18 +86,15 @@ bool KesNumberingConfig::loadDialingRules() {
         Poco::Util::AbstractConfiguration::Keys codes;
         file->keys(codes);
         for (const std::string& code : codes) {
-            // number:internatPfx:internatRule:longDistRule:localRule:name:P, missing fields empty.
-            Poco::StringTokenizer fields(file->getString(code), ":");
-            std::string field[7];
-            for (std::size_t i = 0; i < 7 && i < fields.count(); ++i)
-                field[i] = fields[i];
+            const DialingRuleFields row = splitDialingRule(file->getString(code));
+            const auto& field = row.field;
             Poco::AutoPtr<KesCountryRuleItem> rule(
                 new KesCountryRuleItem(field[0], field[1], field[2], field[3], field[4], field[5]));
             // Insertion never replaces: of two rows for the same key, the first in key order stays.
             KesCountryRuleItem* stored = countryRules->insert(code, rule).get();
-            if (field[6] == "P")
-                countryCodeByNumber->insert(field[0], Country{code, stored});
-            countryCodeByName->insert(field[5], code);
+            if (row.primary())
+                countryCodeByNumber->insert(row.callingCode(), Country{code, stored});
+            countryCodeByName->insert(row.name(), code);
         }
     } catch (const std::exception& e) {
         logger->error(std::string("KesNumberingConfig::loadDialingRules Exception : ") + e.what());
@@ -129,20 +124,13 @@ bool KesNumberingConfig::loadCountryMasks() {
         file->keys(keys);
         std::size_t loaded = 0;
         for (const std::string& key : keys) {
-            // "Mask_" may stand anywhere in the key, yet the country number is always cut from the
-            // sixth character up to the next "_".
-            if (key.find("Mask_") == std::string::npos)
-                continue;
-            std::string::size_type end = key.find('_', 5);
-            if (end == std::string::npos)
-                continue;
-            std::string countryNumber = key.substr(5, end - 5);
-            if (countryNumber.empty() || countryNumber.size() > 3)
+            const MaskKey maskKey = readMaskKey(key);
+            if (maskKey.skipped != MaskKey::Skipped::No)
                 continue;
             std::string mask = file->getString(key);
             if (mask.empty())
                 continue;
-            countryMasks->insert(countryNumber, mask);
+            countryMasks->insert(maskKey.callingCode, mask);
             ++loaded;
         }
         if (Logger::m_Traces) {
@@ -170,9 +158,10 @@ bool KesNumberingConfig::loadSpecificFormatActivation() {
         Poco::Util::AbstractConfiguration::Keys keys;
         file->keys(keys);
         for (const std::string& key : keys) {
-            if (key.compare(0, 4, "cnp_") != 0 || key.size() < 5 || key.size() > 7)
+            const std::optional<std::string> activationKey = readActivationKey(key);
+            if (!activationKey)
                 continue;
-            std::string countryNumber = key.substr(4);
+            const std::string& countryNumber = *activationKey;
             std::string code;
             try {
                 code = getCountryCodeFromNumber(countryNumber);
@@ -183,24 +172,20 @@ bool KesNumberingConfig::loadSpecificFormatActivation() {
                     logger->debug("Invalid property 'cnp_" + countryNumber + "'");
                 continue;
             }
-            std::string value = file->getString(key);
-            if (value.empty())
+            const std::string value = file->getString(key);
+            const Switch readValue = readSwitch(value);
+            if (readValue == Switch::Empty)
                 continue;
-            std::string lower = Poco::toLower(value);
-            bool active;
-            if (lower == "true" || lower == "on" || lower == "1") {
-                if (Logger::m_Traces)
-                    logger->debug("Activating specific format for " + getCountryName(code));
-                active = true;
-            } else if (lower == "false" || lower == "off" || lower == "0") {
-                if (Logger::m_Traces)
-                    logger->debug("Desactivating specific format for " + getCountryName(code));
-                active = false;
-            } else {
+            if (readValue == Switch::Invalid) {
                 if (Logger::m_Traces)
                     logger->debug("Invalid value for property 'cnp_' : " + value);
                 continue;
             }
+            const bool active = readValue == Switch::On;
+            if (Logger::m_Traces)
+                logger->debug(
+                    (active ? "Activating specific format for " : "Desactivating specific format for ") +
+                    getCountryName(code));
             // Every switch is filed under 0, whatever its country number, and the first one stays:
             // only a country number reading as 0 ever sees it (see isSpecificFormatActiveForCountry).
             specificFormatActivation.insert(std::make_pair(0, active));
