@@ -103,8 +103,9 @@ TEST_F(OddInputs, EveryMessageIsOneLogLine) {
     ASSERT_FALSE(testhost::lines().empty());
     for (const std::string& line : testhost::lines()) {
         std::string::size_type lineBreak = line.find('\n');
-        if (lineBreak != std::string::npos)
+        if (lineBreak != std::string::npos) {
             EXPECT_EQ(line.compare(lineBreak, 29, "\n  DialRules: CountryCode : '"), 0) << line;
+        }
         for (std::string::size_type i = 0; i < line.size(); ++i)
             EXPECT_TRUE(i == lineBreak || !isControl(line[i]))
                 << "control " << int(line[i]) << " in: " << line;
@@ -117,7 +118,7 @@ TEST_F(OddInputs, EveryMessageIsOneLogLine) {
 
 TEST_F(OddInputs, NoDebugTextWhileTracingIsOff) {
     testhost::Tracing off(false);
-    for (const std::string& number : {"08 123 456 78", "+39 06 1234", "1234", "0123x"})
+    for (const char* number : {"08 123 456 78", "+39 06 1234", "1234", "0123x"})
         convertAll(number);
     EXPECT_EQ(testhost::countLogged("DEBUG "), 0);
     EXPECT_GT(testhost::countLogged("ERROR "), 0) << "errors are written all the same";
