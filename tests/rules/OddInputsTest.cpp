@@ -40,8 +40,13 @@ protected:
         facade->formatToGSMCanonicalNumber(number);
     }
 
-    KesDialRulesItem paris = facadeworld::paris(5, "1\n2");
-    KesDialRulesItem stockholm = facadeworld::stockholm(4, "1");
+    void SetUp() override {
+        FacadeTest::SetUp();
+        paris = facadeworld::paris(5, "1\n2"); // checked against the rules just loaded
+        stockholm = facadeworld::stockholm(4, "1");
+    }
+
+    KesDialRulesItem paris, stockholm;
 };
 
 // Canonical, national and service-code shapes, so that the conversions go deep before failing.
