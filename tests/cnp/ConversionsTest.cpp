@@ -120,7 +120,7 @@ const Group TABLE[] = {
       "0111543215678 -> +54 9 (11) 43215678", "91143215678 -> +54 9 (11) 43215678",
       "1543215678 -> +54 9 (11) 43215678", "03514321567 -> +54 (351) 4321567",
       "0351154321567 -> +54 9 (351) 4321567", "0221432156 -> +54 (11) 221432156", "12345 -> +54 (11) 12345",
-      "9999999999", "0123456789012345", "09221432156"}},
+      "9999999999", "011154321567890 -> +54 9 (11) 4321567890", "0123456789012345", "09221432156"}},
     // New Zealand: one-digit areas, mobiles of six to eight digits behind their prefix, services.
     {{"NZ", "", 0, ""},
      {"031234567 -> +64 (3) 1234567", "041234567 -> +64 (4) 1234567", "061234567 -> +64 (6) 1234567",
@@ -204,6 +204,7 @@ TEST_F(Conversions, NationalNumbersShorterThanTheLongestAreaCodeWaitForPass2) {
     EXPECT_EQ(site.convert("030123"), "+49 (30) 123");
     writePlanFile("49", "1", {"30", "332031"});
     EXPECT_EQ(site.convert("030123"), "+49 (89) 030123");
+    EXPECT_EQ(site.convert("0301234"), "+49 (30) 1234") << "as long as the longest area code";
 }
 
 // Plans built before a reload read the store in use; a country missing from it has no national prefix.

@@ -13,19 +13,13 @@
 using namespace numbering;
 using namespace planworld;
 
-namespace {
-
 using PlanTraces = PlanTest;
 
-} // namespace
-
 TEST_F(PlanTraces, EveryPlanTracesOnlyWhileTracing) {
-    const Site sites[] = {{"US", "0", 0, "1"}, {"RU", "0", 0, "1"}, {"NL", "0", 0, "1"}, {"BE", "0", 0, "1"},
-                          {"FR", "0", 0, "1"}, {"CH", "0", 0, "1"}, {"AT", "0", 0, "1"}, {"GB", "0", 0, "1"},
-                          {"DE", "0", 0, "1"}, {"MX", "0", 0, "1"}, {"AR", "0", 0, "1"}, {"CO", "0", 0, "1"},
-                          {"AU", "0", 0, "1"}, {"NZ", "0", 0, "1"}, {"IE", "0", 0, "1"}};
     const std::string number = "0201234567";
-    for (const Site& site : sites) {
+    for (const char* country :
+         {"US", "RU", "NL", "BE", "FR", "CH", "AT", "GB", "DE", "MX", "AR", "CO", "AU", "NZ", "IE"}) {
+        const Site site{country, "0", 0, "1"};
         {
             testhost::Tracing off(false);
             site.convert(number);
@@ -35,9 +29,10 @@ TEST_F(PlanTraces, EveryPlanTracesOnlyWhileTracing) {
         site.convert(number);
         const std::string className = "KesCNP_" + site.callingCode();
         const std::string prefix = "DEBUG " + loggerOf(className) + " - ";
-        const char* operation = className == "KesCNP_54" || className == "KesCNP_57"
-                                    ? "DlrArgentinaMakeCanonicalNumber('" // the Colombian plan's slip
-                                    : "dlr_Country_MakeCanonicalNumber('";
+        const char* operation =
+            className == "KesCNP_54" || className == "KesCNP_57"
+                ? "DlrArgentinaMakeCanonicalNumber('" // the Colombian plan names Argentina
+                : "dlr_Country_MakeCanonicalNumber('";
         EXPECT_TRUE(testhost::logged(prefix + className + "()")) << site;
         // The rules' text ends in a NUL character, so the sink shows the line up to the rules only.
         EXPECT_TRUE(
