@@ -182,9 +182,8 @@ TEST_F(Conversions, LocalNumbersOnlyWithTranslate) {
     const Site sites[] = {{"DE", "0", 5, "89"}, {"AT", "0", 4, "1"}, {"NL", "0", 0, "20"},
                           {"GB", "9", 0, "20"}, {"IE", "0", 0, "1"}, {"AU", "0", 0, "2"},
                           {"MX", "0", 0, "55"}};
+    const std::string local = "22345678"; // eight digits: also a local number in Australia and Mexico
     for (const Site& site : sites) {
-        const std::string local =
-            site.country == std::string("AU") || site.country == std::string("MX") ? "22345678" : "2345678";
         EXPECT_EQ(site.convert(local), "+" + site.callingCode() + " (" + site.ownArea + ") " + local) << site;
         writePlanFile(site.callingCode(), "0", {"20"});
         EXPECT_EQ(site.convert(local), local) << site;
@@ -197,7 +196,8 @@ TEST_F(Conversions, WithoutDialingRulesTheNumberComesBackUnchanged) {
             EXPECT_EQ(plan(code)->dlr_Country_MakeCanonicalNumber(number, nullptr), number) << code;
 }
 
-// The two-pass plans leave to pass 2 a national number shorter than their longest area code.
+// The two-pass plans leave to pass 2 a national number shorter than their longest area code, not
+// one as long.
 TEST_F(Conversions, NationalNumbersShorterThanTheLongestAreaCodeWaitForPass2) {
     const Site site{"DE", "9", 5, "89"};
     writePlanFile("49", "1", {"30"});

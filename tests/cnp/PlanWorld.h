@@ -121,7 +121,7 @@ struct Site {
     }
 };
 
-/// Standard dialing rules and the shared plan files, loaded; with `files` false no plan file at all.
+/// Standard dialing rules and, unless `writesFiles` is cleared before SetUp, the shared plan files.
 class PlanTest : public ::testing::Test {
 protected:
     void SetUp() override {
