@@ -18,8 +18,8 @@ struct CountryExamples {
     std::string mobile; // may be empty
 };
 
-/// Every row of the file, in file order (read once). Empty when the file cannot be read; then
-/// readError() says why.
+/// Every row of the file, in file order (read once). Empty when the file cannot be read or holds a
+/// malformed line; then readError() says why.
 const std::vector<CountryExamples>& exampleNumbers();
 const std::string& readError();
 

@@ -1,0 +1,119 @@
+// How the plans that read area codes take their files: the list, "Translate", the default file and
+// the texts each plan logs when its installation file is missing or cannot be opened.
+
+#include "PlanWorld.h"
+#include "TestHost.h"
+
+#include <gtest/gtest.h>
+
+#include <cstdio>
+#include <string>
+
+using namespace numbering;
+using namespace planworld;
+
+namespace {
+
+// Puts a plain file where the configuration directory was, so that opening any file in it fails
+// with "not a directory"; the directory comes back at the end of the scope.
+class DirectoryReplacedByAFile {
+public:
+    DirectoryReplacedByAFile() : aside(testconfig::directory()) {
+        aside.pop_back();
+        std::rename(aside.c_str(), (aside + ".aside").c_str());
+        if (std::FILE* file = std::fopen(aside.c_str(), "w"))
+            std::fclose(file);
+    }
+    ~DirectoryReplacedByAFile() {
+        std::remove(aside.c_str());
+        std::rename((aside + ".aside").c_str(), aside.c_str());
+    }
+
+private:
+    std::string aside;
+};
+
+// No plan file at all unless the test writes one.
+class PlanFiles : public PlanTest {
+protected:
+    PlanFiles() { writesFiles = false; }
+};
+
+} // namespace
+
+TEST_F(PlanFiles, ListEndsAtTheFirstGapOrValueWithoutDigitsAndKeepsLeadingDigitsOnly) {
+    testconfig::write(installationFile("49"),
+                      "Translate=1\nAC_0000=30 Berlin\nAC_0001=0711\nAC_0002=30\nAC_0004=221\nOther=5\n");
+    testconfig::write(installationFile("31"), "Translate=1\nAC_0000=20\nAC_0001=x10\nAC_0002=10\n");
+    Poco::AutoPtr<KesAreaCodePlan> germany = filePlan("49");
+    EXPECT_EQ(germany->areaCodeCount, 3) << "a repeated code is counted all the same";
+    EXPECT_EQ(germany->maxAreaCodeLength, 4);
+    EXPECT_EQ(germany->areaCodeTree->extractAreaCode("3012"), "30");
+    EXPECT_EQ(germany->areaCodeTree->extractAreaCode("07119"), "0711") << "loaded as written";
+    EXPECT_EQ(germany->areaCodeTree->extractAreaCode("2219"), "") << "behind the gap";
+    EXPECT_EQ(filePlan("31")->areaCodeCount, 1);
+}
+
+TEST_F(PlanFiles, TranslateIsOnlyOneAndItsAbsenceEndsTheReadingExceptForBelgium) {
+    struct Case {
+        const char* plan;
+        const char* translate;
+        bool expected;
+        int codes;
+    } cases[] = {{"44", "1", true, 1},     {"44", "0", false, 1}, {"44", "yes", false, 1},
+                 {"44", nullptr, true, 0}, {"32", "0", true, 1},  {"32", nullptr, true, 1}};
+    for (const Case& c : cases) {
+        writePlanFile(c.plan, c.translate, {"20"});
+        Poco::AutoPtr<KesAreaCodePlan> plan = filePlan(c.plan);
+        EXPECT_EQ(plan->translate, c.expected) << c.plan << " " << (c.translate ? c.translate : "none");
+        EXPECT_EQ(plan->areaCodeCount, c.codes) << c.plan << " " << (c.translate ? c.translate : "none");
+    }
+}
+
+TEST_F(PlanFiles, MissingInstallationFileFallsBackToTheDefaultWithThePlansText) {
+    for (const FilePlan& p : FILE_PLANS) {
+        testconfig::write(defaultFile(p.code), "Translate=0\n" + areaCodeLines({"7"}));
+        testhost::Tracing off(false);
+        Poco::AutoPtr<KesAreaCodePlan> plan = filePlan(p.code);
+        EXPECT_EQ(plan->areaCodeCount, 1) << p.code;
+        EXPECT_EQ(plan->translate, !p.readsTranslate) << p.code;
+        EXPECT_EQ(testhost::lines().size(), 1u) << p.code;
+        EXPECT_TRUE(testhost::logged(std::string("INFO ") + loggerOf(std::string("KesCNP_") + p.code) +
+                                     " - " + p.textWhenNotFound))
+            << p.code;
+    }
+}
+
+TEST_F(PlanFiles, InstallationFileIsNeverMergedWithTheDefault) {
+    writePlanFile("61", "1", {"2"});
+    testconfig::write(defaultFile("61"), "Translate=0\n" + areaCodeLines({"2", "3"}));
+    Poco::AutoPtr<KesAreaCodePlan> plan = filePlan("61");
+    EXPECT_EQ(plan->areaCodeCount, 1);
+    EXPECT_TRUE(plan->translate);
+}
+
+TEST_F(PlanFiles, UnopenableFilesGiveThePlansOtherTextAndAnEmptyTree) {
+    DirectoryReplacedByAFile replaced;
+    for (const FilePlan& p : FILE_PLANS) {
+        testhost::Tracing off(false);
+        Poco::AutoPtr<KesAreaCodePlan> plan = filePlan(p.code);
+        EXPECT_EQ(plan->areaCodeCount, 0) << p.code;
+        EXPECT_TRUE(plan->translate) << p.code;
+        EXPECT_TRUE(testhost::logged(std::string("INFO ") + loggerOf(std::string("KesCNP_") + p.code) +
+                                     " - " + p.textWhenUnopenable))
+            << p.code;
+    }
+}
+
+TEST_F(PlanFiles, MissingFilesLeaveAnEmptyTreeAndTheSummaryIsTraced) {
+    writePlanFile("54", "1", {"11", "351"});
+    testhost::Tracing on;
+    Poco::AutoPtr<KesAreaCodePlan> germany = filePlan("49");
+    Poco::AutoPtr<KesAreaCodePlan> argentina = filePlan("54");
+    EXPECT_EQ(germany->areaCodeCount, 0);
+    EXPECT_TRUE(germany->translate);
+    EXPECT_TRUE(testhost::logged("DEBUG N9numbering9KesCNP_49E - KesCNP_49()"));
+    EXPECT_TRUE(testhost::logged("DEBUG N9numbering9KesCNP_49E - KesCNP_49 : "));
+    EXPECT_TRUE(testhost::logged("KesCNP_49 :  max length areacode : 0 nb area code : 0"));
+    EXPECT_TRUE(testhost::logged("KesCNP_54 :  max length areacode : 3 nb area code : 2"));
+}
