@@ -114,7 +114,7 @@ const PropertyFile::Entry* PropertyFile::find(std::string_view key) const {
     if (indexed) {
         const auto found = std::lower_bound(
             byKey.begin(), byKey.end(), key,
-            [this](std::uint32_t entry, std::string_view key) { return keyOf(entries[entry]) < key; });
+            [this](std::uint32_t entry, std::string_view wanted) { return keyOf(entries[entry]) < wanted; });
         return found != byKey.end() && keyOf(entries[*found]) == key ? &entries[*found] : nullptr;
     }
     for (auto entry = entries.rbegin(); entry != entries.rend(); ++entry)
