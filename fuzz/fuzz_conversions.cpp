@@ -24,10 +24,12 @@ struct Site {
 };
 
 const Site SITES[] = {
-    {"FR", "0", 5, "1", "1"},   {"DE", "0", 4, "89", ""},  {"AT", "0", 4, "1", ""},    {"GB", "9", 5, "20", "999"},
-    {"US", "9", 5, "212", "911"}, {"RU", "0", 4, "495", ""}, {"AR", "0", 4, "11", ""},  {"CO", "0", 4, "1", ""},
-    {"AU", "0", 4, "2", "000"},  {"MX", "0", 4, "55", ""},  {"CH", "0", 4, "44", ""},   {"IT", "0", 4, "", ""},
-    {"NL", "0", 4, "20", ""},    {"BE", "0", 4, "2", ""},   {"IE", "0", 4, "1", ""},    {"NZ", "0", 4, "9", ""},
+    {"FR", "0", 5, "1", "1"},    {"DE", "0", 4, "89", ""},     {"AT", "0", 4, "1", ""},
+    {"GB", "9", 5, "20", "999"}, {"US", "9", 5, "212", "911"}, {"RU", "0", 4, "495", ""},
+    {"AR", "0", 4, "11", ""},    {"CO", "0", 4, "1", ""},      {"AU", "0", 4, "2", "000"},
+    {"MX", "0", 4, "55", ""},    {"CH", "0", 4, "44", ""},     {"IT", "0", 4, "", ""},
+    {"NL", "0", 4, "20", ""},    {"BE", "0", 4, "2", ""},      {"IE", "0", 4, "1", ""},
+    {"NZ", "0", 4, "9", ""},
 };
 
 std::vector<std::unique_ptr<KesDialRulesItem>>& sites() {
@@ -40,8 +42,8 @@ std::vector<std::unique_ptr<KesDialRulesItem>>& sites() {
 extern "C" int LLVMFuzzerInitialize(int*, char*** argv) {
     fuzzhost::useConfigurationDirectory(NUMBERING_SOURCE_DATA_DIR, *argv);
     for (const Site& site : SITES)
-        sites().emplace_back(new KesDialRulesItem(site.country, site.extPrefix, site.localLength, site.areaCodes,
-                                                  0, site.exceptBegin));
+        sites().emplace_back(new KesDialRulesItem(site.country, site.extPrefix, site.localLength,
+                                                  site.areaCodes, 0, site.exceptBegin));
     return 0;
 }
 
@@ -53,19 +55,33 @@ extern "C" int LLVMFuzzerTestOneInput(const uint8_t* data, size_t size) {
     KesNumberingRules* rules = KesNumberingRules::getInstance();
     try {
         switch (data[1] % 11) {
-        case 0: rules->makeCanonicalNumber(site, number, ""); break;
-        case 1: rules->makeCanonicalNumber(site, number, "+C (a) xx xx", true); break;
-        case 2: rules->makePhoneNumber(site, number); break;
-        case 3: rules->addExternalPrefix(site, number); break;
+        case 0:
+            rules->makeCanonicalNumber(site, number, "");
+            break;
+        case 1:
+            rules->makeCanonicalNumber(site, number, "+C (a) xx xx", true);
+            break;
+        case 2:
+            rules->makePhoneNumber(site, number);
+            break;
+        case 3:
+            rules->addExternalPrefix(site, number);
+            break;
         case 4: {
             KesClid* clid = rules->makeClid(site, number);
             if (clid != nullptr)
                 clid->release();
             break;
         }
-        case 5: rules->makeGSMCanonicalNumber(site, number, data[1] & 0x80); break;
-        case 6: rules->formatToGSMCanonicalNumber(number); break;
-        case 7: rules->formatCanonicalNumber(number, data[1] & 0x80 ? "" : "C A a x (xx) -x"); break;
+        case 5:
+            rules->makeGSMCanonicalNumber(site, number, data[1] & 0x80);
+            break;
+        case 6:
+            rules->formatToGSMCanonicalNumber(number);
+            break;
+        case 7:
+            rules->formatCanonicalNumber(number, data[1] & 0x80 ? "" : "C A a x (xx) -x");
+            break;
         case 8:
             rules->extractCountryNumberFromCanonicalNumber(number);
             rules->extractAreaCodeOrNatPrefixFromCanonicalNumber(number);
@@ -75,7 +91,9 @@ extern "C" int LLVMFuzzerTestOneInput(const uint8_t* data, size_t size) {
             if (!number.empty())
                 rules->makeDialableNumber(site, number);
             break;
-        default: rules->generateDefaultCanonicalNumber(number, site->getCountryId(), site->getAreaCode()); break;
+        default:
+            rules->generateDefaultCanonicalNumber(number, site->getCountryId(), site->getAreaCode());
+            break;
         }
     } catch (const std::invalid_argument&) {
         // Empty numbers are refused by exception; that is the documented answer.

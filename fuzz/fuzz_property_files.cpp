@@ -17,15 +17,17 @@ using namespace numbering;
 
 namespace {
 
-const char* const FILES[] = {"dialingrules.properties", "dlr_cnp_mask.properties",
-                             "specific_format_activation.properties", "tz310cnp_49.properties",
-                             "tz310cnp_54.properties", "tz310cnp_61.properties", "tz310cnp_57.properties"};
+const char* const FILES[] = {
+    "dialingrules.properties", "dlr_cnp_mask.properties", "specific_format_activation.properties",
+    "tz310cnp_49.properties",  "tz310cnp_54.properties",  "tz310cnp_61.properties",
+    "tz310cnp_57.properties"};
 
 std::string directory;
 
 void convertSome(KesNumberingRules* rules, KesDialRulesItem* site) {
-    static const char* const numbers[] = {"01 23 45 67 89", "+49 (89) 123456", "0111543215678", "033001234567",
-                                          "0212345678",     "84951234567",     "+7 495 1234567", "123"};
+    static const char* const numbers[] = {
+        "01 23 45 67 89", "+49 (89) 123456", "0111543215678",  "033001234567",
+        "0212345678",     "84951234567",     "+7 495 1234567", "123"};
     for (const char* number : numbers) {
         rules->makeCanonicalNumber(site, number, "");
         rules->makePhoneNumber(site, number);

@@ -24,11 +24,14 @@ CXX=clang++ cmake -S . -B build-sanitize -DCMAKE_BUILD_TYPE=Debug -DNUMBERING_SA
   -DNUMBERING_BUILD_FUZZ=ON >/dev/null
 cmake --build build-sanitize -j"$jobs"
 ASAN_OPTIONS=detect_leaks=1 ctest --test-dir build-sanitize -j"$jobs" --output-on-failure
+# Each target's inputs may grow to its largest seed (at least 4096 bytes), so that no seed is cut.
 for target in conversions property_files; do
   corpus=$(mktemp -d)
   log=$(mktemp)
   cp fuzz/corpus/"$target"/* "$corpus"/
-  if ! ./build-sanitize/fuzz/fuzz_"$target" -max_total_time="$fuzz_seconds" -max_len=4096 \
+  largest=$(wc -c fuzz/corpus/"$target"/* | grep -v ' total$' | sort -n | tail -n 1 | awk '{print $1}')
+  max_len=$((largest > 4096 ? largest : 4096))
+  if ! ./build-sanitize/fuzz/fuzz_"$target" -max_total_time="$fuzz_seconds" -max_len="$max_len" \
       -print_final_stats=1 "$corpus" >"$log" 2>&1; then
     tail -n 60 "$log"
     echo "fuzz_$target found a fault"

@@ -2,7 +2,8 @@
 #define NUMBERING_SRC_CHECK_PROPERTYREADING_H
 
 // The configuration check reaches the library's property file reader through this file only, so
-// that it reads every file exactly as the loaders do and follows them when the reader changes.
+// that it opens and reads every file exactly as the loaders do and follows them when the reader
+// changes.
 
 #include <Poco/AutoPtr.h>
 #include <Poco/Util/AbstractConfiguration.h>
@@ -19,9 +20,9 @@ struct PropertyText {
     std::string text;
 };
 
-/// Opens `path` as the library opens a property file: Poco::FileNotFoundException when it does not
-/// exist, Poco::OpenFileException (whose message says why) when it cannot be opened. A directory,
-/// a FIFO or a device cannot be opened: the check never waits for a writer.
+/// Opens `path` with the library's own opening of a property file: Poco::FileNotFoundException when
+/// it does not exist, Poco::OpenFileException (whose message says why) when it cannot be read. A
+/// directory, a FIFO or a device cannot be opened: the check never waits for a writer.
 PropertyText openPropertyFile(const std::string& path);
 
 /// The leading run of decimal digits of a numbered value, all that the plans keep of it.

@@ -23,10 +23,10 @@ KesAreaCodePlan::~KesAreaCodePlan() = default;
 
 void KesAreaCodePlan::loadAreaCodes(const PlanFile& file, Logger* planLogger) {
     try {
-        std::unique_ptr<PropertyTable> properties =
-            openTableOrDefault(KesNumberingConfig::configFile(file.installationFile),
-                               KesNumberingConfig::configFile(file.defaultFile), planLogger,
-                               file.textWhenUnopenable, file.textWhenNotFound);
+        const Poco::AutoPtr<PropertyFile> properties =
+            readInstallationOrDefault(KesNumberingConfig::configFile(file.installationFile),
+                                      KesNumberingConfig::configFile(file.defaultFile), planLogger,
+                                      file.textWhenUnopenable, file.textWhenNotFound);
         if (file.readsTranslate)
             translate = translateOn(properties->getString("Translate"));
         // The list ends at the first missing key (a gap included), by exception like a normal file.

@@ -34,6 +34,28 @@ namespace {
 const int BUCKETS = 64;
 const char* const NO_DIALING_RULES_FILE = "No specific dialing rules configuration file";
 
+/// Reads the installation file `fileStem` + ".properties" of `directory`, or its default file, and
+/// calls `loadKey(file, key)` for each of its root keys in ascending order. Any exception ends the
+/// loading with an error line naming the store's `operation`; what was loaded before it stays.
+/// True when every key was loaded.
+template <class LoadKey>
+bool loadEachKey(const std::string& directory, Logger* logger, const std::string& fileStem,
+                 const std::string& textWhenNoFile, const char* operation, LoadKey loadKey) {
+    try {
+        const Poco::AutoPtr<PropertyFile> file = readInstallationOrDefault(
+            directory + fileStem + ".properties", directory + fileStem + "_default.properties", logger,
+            textWhenNoFile, textWhenNoFile);
+        Poco::Util::AbstractConfiguration::Keys keys;
+        file->keys(keys);
+        for (const std::string& key : keys)
+            loadKey(*file, key);
+        return true;
+    } catch (const std::exception& e) {
+        logger->error("KesNumberingConfig::" + std::string(operation) + " Exception : " + e.what());
+        return false; // what was loaded before the failure stays
+    }
+}
+
 } // namespace
 
 std::string KesNumberingConfig::configDirectory() {
@@ -78,29 +100,18 @@ KesNumberingConfig::~KesNumberingConfig() {
 bool KesNumberingConfig::loadDialingRules() {
     if (Logger::m_Traces)
         logger->debug("loadDialingRules()");
-    bool complete = true;
-    try {
-        PropertyFile file = openInstallationOrDefault(directory + "dialingrules.properties",
-                                                      directory + "dialingrules_default.properties", logger,
-                                                      NO_DIALING_RULES_FILE, NO_DIALING_RULES_FILE);
-        Poco::Util::AbstractConfiguration::Keys codes;
-        file->keys(codes);
-        for (const std::string& code : codes) {
-            const DialingRuleFields row = splitDialingRule(file->getString(code));
-            const auto& field = row.field;
-            Poco::AutoPtr<KesCountryRuleItem> rule(
-                new KesCountryRuleItem(field[0], field[1], field[2], field[3], field[4], field[5]));
-            // Insertion never replaces: of two rows for the same key, the first in key order stays.
-            KesCountryRuleItem* stored = countryRules->insert(code, rule).get();
-            if (row.primary())
-                countryCodeByNumber->insert(row.callingCode(), Country{code, stored});
-            countryCodeByName->insert(row.name(), code);
-        }
-    } catch (const std::exception& e) {
-        logger->error(std::string("KesNumberingConfig::loadDialingRules Exception : ") + e.what());
-        complete = false; // what was loaded before the failure stays
-    }
-    return complete;
+    const auto loadRow = [this](const PropertyFile& file, const std::string& code) {
+        const DialingRuleFields row = splitDialingRule(file.getString(code));
+        const auto& field = row.field;
+        Poco::AutoPtr<KesCountryRuleItem> rule(
+            new KesCountryRuleItem(field[0], field[1], field[2], field[3], field[4], field[5]));
+        // Insertion never replaces: of two rows for the same key, the first in key order stays.
+        KesCountryRuleItem* stored = countryRules->insert(code, rule).get();
+        if (row.primary())
+            countryCodeByNumber->insert(row.callingCode(), Country{code, stored});
+        countryCodeByName->insert(row.name(), code);
+    };
+    return loadEachKey(directory, logger, "dialingrules", NO_DIALING_RULES_FILE, "loadDialingRules", loadRow);
 }
 
 void KesNumberingConfig::createListCountryDisplay() {
@@ -114,34 +125,25 @@ void KesNumberingConfig::createListCountryDisplay() {
 bool KesNumberingConfig::loadCountryMasks() {
     if (Logger::m_Traces)
         logger->debug("loadCountryMasks()");
-    bool complete = true;
-    try {
-        // The info text names the dialing rules although the masks are meant: hosts grep for it.
-        PropertyFile file = openInstallationOrDefault(directory + "dlr_cnp_mask.properties",
-                                                      directory + "dlr_cnp_mask_default.properties", logger,
-                                                      NO_DIALING_RULES_FILE, NO_DIALING_RULES_FILE);
-        Poco::Util::AbstractConfiguration::Keys keys;
-        file->keys(keys);
-        std::size_t loaded = 0;
-        for (const std::string& key : keys) {
-            const MaskKey maskKey = readMaskKey(key);
-            if (maskKey.skipped != MaskKey::Skipped::No)
-                continue;
-            std::string mask = file->getString(key);
-            if (mask.empty())
-                continue;
-            countryMasks->insert(maskKey.callingCode, mask);
-            ++loaded;
-        }
-        if (Logger::m_Traces) {
-            // The count is added to the start of the text rather than printed: it skips that many
-            // characters ("untry masks loaded" for three masks).
-            static const std::string loadedText = " country masks loaded";
-            logger->debug(loaded < loadedText.size() ? loadedText.substr(loaded) : std::string());
-        }
-    } catch (const std::exception& e) {
-        logger->error(std::string("KesNumberingConfig::loadCountryMasks Exception : ") + e.what());
-        complete = false; // what was loaded before the failure stays
+    std::size_t loaded = 0;
+    const auto loadMask = [this, &loaded](const PropertyFile& file, const std::string& key) {
+        const MaskKey maskKey = readMaskKey(key);
+        if (maskKey.skipped != MaskKey::Skipped::No)
+            return;
+        std::string mask = file.getString(key);
+        if (mask.empty())
+            return;
+        countryMasks->insert(maskKey.callingCode, mask);
+        ++loaded;
+    };
+    // The info text names the dialing rules although the masks are meant: hosts grep for it.
+    const bool complete =
+        loadEachKey(directory, logger, "dlr_cnp_mask", NO_DIALING_RULES_FILE, "loadCountryMasks", loadMask);
+    if (complete && Logger::m_Traces) {
+        // The count is added to the start of the text rather than printed: it skips that many
+        // characters ("untry masks loaded" for three masks).
+        static const std::string loadedText = " country masks loaded";
+        logger->debug(loaded < loadedText.size() ? loadedText.substr(loaded) : std::string());
     }
     return complete;
 }
@@ -149,53 +151,42 @@ bool KesNumberingConfig::loadCountryMasks() {
 bool KesNumberingConfig::loadSpecificFormatActivation() {
     if (Logger::m_Traces)
         logger->debug("loadSpecificFormatActivation()");
-    try {
-        PropertyFile file =
-            openInstallationOrDefault(directory + "specific_format_activation.properties",
-                                      directory + "specific_format_activation_default.properties", logger,
-                                      "No specific format activation configuration file",
-                                      "No specific format activation configuration file");
-        Poco::Util::AbstractConfiguration::Keys keys;
-        file->keys(keys);
-        for (const std::string& key : keys) {
-            const std::optional<std::string> activationKey = readActivationKey(key);
-            if (!activationKey)
-                continue;
-            const std::string& countryNumber = *activationKey;
-            std::string code;
-            try {
-                code = getCountryCodeFromNumber(countryNumber);
-            } catch (const number_format_exception&) {
-            }
-            if (code.empty()) {
-                if (Logger::m_Traces)
-                    logger->debug("Invalid property 'cnp_" + countryNumber + "'");
-                continue;
-            }
-            const std::string value = file->getString(key);
-            const Switch readValue = readSwitch(value);
-            if (readValue == Switch::Empty)
-                continue;
-            if (readValue == Switch::Invalid) {
-                if (Logger::m_Traces)
-                    logger->debug("Invalid value for property 'cnp_' : " + value);
-                continue;
-            }
-            const bool active = readValue == Switch::On;
-            if (Logger::m_Traces)
-                logger->debug(
-                    (active ? "Activating specific format for " : "Desactivating specific format for ") +
-                    getCountryName(code));
-            // Every switch is filed under 0, whatever its country number, and the first one stays:
-            // only a country number reading as 0 ever sees it (see isSpecificFormatActiveForCountry).
-            specificFormatActivation.insert(std::make_pair(0, active));
+    const auto loadSwitch = [this](const PropertyFile& file, const std::string& key) {
+        const std::optional<std::string> activationKey = readActivationKey(key);
+        if (!activationKey)
+            return;
+        const std::string& countryNumber = *activationKey;
+        std::string code;
+        try {
+            code = getCountryCodeFromNumber(countryNumber);
+        } catch (const number_format_exception&) {
         }
-        return true;
-    } catch (const std::exception& e) {
-        logger->error(std::string("KesNumberingConfig::loadSpecificFormatActivation Exception : ") +
-                      e.what());
-        return false;
-    }
+        if (code.empty()) {
+            if (Logger::m_Traces)
+                logger->debug("Invalid property 'cnp_" + countryNumber + "'");
+            return;
+        }
+        const std::string value = file.getString(key);
+        const Switch readValue = readSwitch(value);
+        if (readValue == Switch::Empty)
+            return;
+        if (readValue == Switch::Invalid) {
+            if (Logger::m_Traces)
+                logger->debug("Invalid value for property 'cnp_' : " + value);
+            return;
+        }
+        const bool active = readValue == Switch::On;
+        if (Logger::m_Traces)
+            logger->debug(
+                (active ? "Activating specific format for " : "Desactivating specific format for ") +
+                getCountryName(code));
+        // Every switch is filed under 0, whatever its country number, and the first one stays:
+        // only a country number reading as 0 ever sees it (see isSpecificFormatActiveForCountry).
+        specificFormatActivation.insert(std::make_pair(0, active));
+    };
+    return loadEachKey(directory, logger, "specific_format_activation",
+                       "No specific format activation configuration file", "loadSpecificFormatActivation",
+                       loadSwitch);
 }
 
 bool KesNumberingConfig::isSpecificFormatActiveForCountry(std::string countryNumber) {

@@ -2,240 +2,221 @@
 
 #include "numbering/Logger.h"
 
-#include <Poco/Ascii.h>
-#include <Poco/FileStream.h>
+#include <Poco/Error.h>
+#include <Poco/MemoryStream.h>
+#include <Poco/String.h>
+
+#include <algorithm>
+#include <cerrno>
+#include <fcntl.h>
+#include <set>
+#include <sys/stat.h>
+#include <unistd.h>
 
 namespace numbering {
 
 namespace {
 
-bool isSpace(char c) {
-    return Poco::Ascii::isSpace(static_cast<unsigned char>(c));
-}
+/// Closes a descriptor when reading ends, however it ends.
+class Descriptor {
+public:
+    explicit Descriptor(int descriptor) : descriptor(descriptor) {}
+    Descriptor(const Descriptor&) = delete;
+    Descriptor& operator=(const Descriptor&) = delete;
+    ~Descriptor() { ::close(descriptor); }
+    int get() const { return descriptor; }
 
-std::string_view trimmed(std::string_view text) {
-    while (!text.empty() && isSpace(text.front()))
-        text.remove_prefix(1);
-    while (!text.empty() && isSpace(text.back()))
-        text.remove_suffix(1);
-    return text;
-}
+private:
+    int descriptor;
+};
 
-bool endsValue(char c) {
-    return c == '\\' || c == '\n' || c == '\r' || c == '\0';
-}
-
-/// Reads the value that starts at `next`, up to its end (a line end or a NUL character, both
-/// consumed, or the end of the text), into `value`, and returns where reading goes on. A value
-/// without backslash stays a view into the text; one with escapes is resolved into `scratch`:
-/// "\t", "\r", "\n", "\f" stand for their control characters, any other escaped character for
-/// itself, a backslash before a line end continues the value on the next line, and a backslash at
-/// the very end of the text ends it.
-const char* readValue(const char* next, const char* end, std::string& scratch, std::string_view& value) {
-    const char* run = next;
-    while (next != end && !endsValue(*next))
-        ++next;
-    if (next == end || *next != '\\') {
-        value = std::string_view(run, static_cast<std::size_t>(next - run));
-        return next == end ? end : next + 1;
-    }
-    scratch.assign(run, static_cast<std::size_t>(next - run));
-    value = scratch;
-    while (next != end) {
-        run = next;
-        while (next != end && !endsValue(*next))
-            ++next;
-        scratch.append(run, static_cast<std::size_t>(next - run));
-        if (next == end)
-            break;
-        if (*next++ != '\\')
-            break; // a line end or a NUL character
-        if (next == end)
-            break;
-        const char escaped = *next++;
-        switch (escaped) {
-        case 't':
-            scratch += '\t';
-            break;
-        case 'r':
-            scratch += '\r';
-            break;
-        case 'n':
-            scratch += '\n';
-            break;
-        case 'f':
-            scratch += '\f';
-            break;
-        case '\r':
-            if (next != end && *next == '\n')
-                ++next;
-            break;
-        case '\n':
-            break;
-        case '\0':
-            value = scratch;
-            return next;
-        default:
-            scratch += escaped;
-        }
-    }
-    value = scratch;
-    return next;
+[[noreturn]] void cannotRead(int error) {
+    throw Poco::OpenFileException(Poco::toLower(Poco::Error::getMessage(error)));
 }
 
 } // namespace
 
-// Poco reads a line so: white space skipped; "#" or "!" comments out the rest of the line; else
-// the key runs up to "=", ":" or the line end, and after "=" or ":" the value follows (readValue);
-// both are trimmed.
-void parseProperties(std::string_view text,
-                     const std::function<void(std::string_view, std::string_view)>& set) {
-    const char* next = text.data();
-    const char* const end = next + text.size();
-    std::string scratch;
-    while (next != end) {
-        while (next != end && isSpace(*next))
-            ++next;
-        if (next == end)
-            break;
-        if (*next == '#' || *next == '!') {
-            while (next != end && *next != '\n' && *next != '\r')
-                ++next;
-            if (next != end)
-                ++next;
-            continue;
-        }
-        const char* keyEnd = next;
-        while (keyEnd != end && *keyEnd != '=' && *keyEnd != ':' && *keyEnd != '\r' && *keyEnd != '\n')
-            ++keyEnd;
-        const std::string_view key = trimmed(std::string_view(next, static_cast<std::size_t>(keyEnd - next)));
-        next = keyEnd;
-        std::string_view value;
-        if (next != end) {
-            const char terminator = *next++;
-            if (terminator == '=' || terminator == ':')
-                next = readValue(next, end, scratch, value);
-        }
-        set(key, trimmed(value));
-    }
-}
-
 std::string readPropertyFile(const std::string& path) {
-    // Opened as Poco opens it: a missing file and an unopenable one raise the same exceptions.
-    Poco::FileInputStream stream(path);
-    if (!stream.good())
-        throw Poco::OpenFileException(path);
-    std::string text;
-    char block[16384];
-    while (stream.read(block, sizeof block) || stream.gcount() > 0)
-        text.append(block, static_cast<std::size_t>(stream.gcount()));
+    // Without O_NONBLOCK, opening a FIFO would wait for a writer; the file type is then taken from
+    // the opened descriptor, so that the file read is the file looked at.
+    const int opened = ::open(path.c_str(), O_RDONLY | O_NONBLOCK | O_CLOEXEC);
+    if (opened < 0) {
+        if (errno == ENOENT)
+            throw Poco::FileNotFoundException(path);
+        cannotRead(errno);
+    }
+    const Descriptor file(opened);
+    struct stat status;
+    if (::fstat(file.get(), &status) != 0)
+        cannotRead(errno);
+    if (!S_ISREG(status.st_mode))
+        throw Poco::OpenFileException(S_ISDIR(status.st_mode) ? "it is a directory"
+                                                              : "it is not a regular file");
+    // One byte more than the file's size, so that the read that finds its end needs no more room.
+    std::string text(static_cast<std::size_t>(status.st_size) + 1, '\0');
+    std::size_t length = 0;
+    for (;;) {
+        if (length == text.size())
+            text.resize(2 * text.size()); // the file grew while it was read
+        const ssize_t got = ::read(file.get(), &text[length], text.size() - length);
+        if (got == 0)
+            break;
+        if (got < 0) {
+            if (errno == EINTR)
+                continue;
+            cannotRead(errno);
+        }
+        length += static_cast<std::size_t>(got);
+    }
+    text.resize(length);
     return text;
 }
 
-void PropertyFileReader::loadText(std::string_view text) {
-    parseProperties(text, [this](std::string_view key, std::string_view value) {
-        setRaw(std::string(key), std::string(value));
-    });
+Poco::AutoPtr<PropertyFile> PropertyFile::read(const std::string& path) {
+    return parse(readPropertyFile(path));
 }
 
-PropertyTable::PropertyTable(const std::string& path) : text(readPropertyFile(path)) {
-    bool refersToProperties = false;
-    const char* const begin = text.data();
-    const char* const end = begin + text.size();
-    parseProperties(text, [&](std::string_view key, std::string_view value) {
-        refersToProperties = refersToProperties || value.find("${") != std::string_view::npos;
-        // A value resolved from escapes lives in the parser's scratch string: it is kept apart.
-        if (!value.empty() && (value.data() < begin || value.data() >= end))
-            value = escapedValues.emplace_back(value);
-        entries.push_back({key, value});
-    });
-    if (refersToProperties) {
-        expanding = new PropertyFileReader;
-        expanding->loadText(text);
+Poco::AutoPtr<PropertyFile> PropertyFile::parse(std::string_view text) {
+    return Poco::AutoPtr<PropertyFile>(new PropertyFile(text));
+}
+
+PropertyFile::PropertyFile(std::string_view text) {
+    // A key or a value is never longer than its line: the buffer holds them all without growing.
+    buffer.reserve(text.size());
+    entries.reserve(static_cast<std::size_t>(std::count(text.begin(), text.end(), '\n')) + 1);
+    Poco::MemoryInputStream stream(text.data(), static_cast<std::streamsize>(text.size()));
+    load(stream);
+}
+
+PropertyFile::~PropertyFile() = default;
+
+void PropertyFile::setRaw(const std::string& key, const std::string& value) {
+    const auto at = [this] { return static_cast<std::uint32_t>(buffer.size()); };
+    Entry entry;
+    entry.keyBegin = at();
+    buffer += key;
+    entry.keyLength = static_cast<std::uint32_t>(key.size());
+    entry.valueBegin = at();
+    buffer += value;
+    entry.valueLength = static_cast<std::uint32_t>(value.size());
+    entries.push_back(entry);
+}
+
+std::string_view PropertyFile::keyOf(const Entry& entry) const {
+    return std::string_view(buffer).substr(entry.keyBegin, entry.keyLength);
+}
+
+std::string_view PropertyFile::valueOf(const Entry& entry) const {
+    return std::string_view(buffer).substr(entry.valueBegin, entry.valueLength);
+}
+
+const PropertyFile::Entry* PropertyFile::find(std::string_view key) const {
+    if (indexed) {
+        const auto found = std::lower_bound(
+            byKey.begin(), byKey.end(), key,
+            [this](std::uint32_t entry, std::string_view wanted) { return keyOf(entries[entry]) < wanted; });
+        return found != byKey.end() && keyOf(entries[*found]) == key ? &entries[*found] : nullptr;
     }
-}
-
-const std::string_view* PropertyTable::find(std::string_view key) const {
     for (auto entry = entries.rbegin(); entry != entries.rend(); ++entry)
-        if (entry->key == key)
-            return &entry->value;
+        if (keyOf(*entry) == key)
+            return &*entry;
     return nullptr;
 }
 
-std::string PropertyTable::getString(const std::string& key) const {
-    if (expanding)
-        return expanding->getString(key);
-    const std::string_view* value = find(key);
-    if (value == nullptr)
-        throw Poco::NotFoundException(key);
-    return std::string(*value);
+void PropertyFile::indexByKey() const {
+    byKey.resize(entries.size());
+    for (std::size_t entry = 0; entry < entries.size(); ++entry)
+        byKey[entry] = static_cast<std::uint32_t>(entry);
+    // Of the entries of one key, the last comes first and stays.
+    std::sort(byKey.begin(), byKey.end(), [this](std::uint32_t left, std::uint32_t right) {
+        const int order = keyOf(entries[left]).compare(keyOf(entries[right]));
+        return order < 0 || (order == 0 && left > right);
+    });
+    byKey.erase(std::unique(byKey.begin(), byKey.end(),
+                            [this](std::uint32_t left, std::uint32_t right) {
+                                return keyOf(entries[left]) == keyOf(entries[right]);
+                            }),
+                byKey.end());
+    indexed = true;
 }
 
-std::string PropertyTable::getString(const std::string& key, const std::string& defaultValue) const {
-    if (expanding)
-        return expanding->getString(key, defaultValue);
-    const std::string_view* value = find(key);
-    return value == nullptr ? defaultValue : std::string(*value);
+bool PropertyFile::getRaw(const std::string& key, std::string& value) const {
+    const Entry* entry = find(key);
+    if (entry == nullptr)
+        return false;
+    value.assign(valueOf(*entry));
+    return true;
 }
 
-std::string PropertyTable::indexedKey(const std::string& keyPrefix, int index) {
+void PropertyFile::enumerate(const std::string& key, Keys& range) const {
+    // A walk of the keys looks each of them up next: from here on, keys are found by the index.
+    if (!indexed)
+        indexByKey();
+    // As Poco's map answers: every key below `key` in ascending order, cut after its next
+    // component, each once.
+    const std::string prefix = key.empty() ? key : key + '.';
+    std::set<std::string_view> listed;
+    for (std::uint32_t entry : byKey) {
+        const std::string_view full = keyOf(entries[entry]);
+        if (full.compare(0, prefix.size(), prefix) != 0)
+            continue;
+        const std::string_view below = full.substr(prefix.size());
+        const std::string_view component = below.substr(0, below.find('.'));
+        if (listed.insert(component).second)
+            range.emplace_back(component);
+    }
+}
+
+std::string PropertyFile::indexedKey(const std::string& keyPrefix, int index) {
     std::string key = keyPrefix + "0000";
     for (std::size_t i = key.size(); index > 0; index /= 10)
         key[--i] = static_cast<char>('0' + index % 10);
     return key;
 }
 
-std::vector<const std::string_view*> PropertyTable::indexedValues(const std::string& keyPrefix) const {
-    std::vector<const std::string_view*> values;
+std::vector<const PropertyFile::Entry*> PropertyFile::indexedEntries(const std::string& keyPrefix) const {
+    std::vector<const Entry*> values;
     for (const Entry& entry : entries) {
-        if (entry.key.size() != keyPrefix.size() + 4 ||
-            entry.key.compare(0, keyPrefix.size(), keyPrefix) != 0)
+        const std::string_view key = keyOf(entry);
+        if (key.size() != keyPrefix.size() + 4 || key.compare(0, keyPrefix.size(), keyPrefix) != 0)
             continue;
-        int index = 0;
-        for (std::size_t i = keyPrefix.size(); i < entry.key.size() && index >= 0; ++i)
-            index = entry.key[i] >= '0' && entry.key[i] <= '9' ? index * 10 + (entry.key[i] - '0') : -1;
-        if (index < 0)
+        std::size_t index = 0;
+        bool digits = true;
+        for (char c : key.substr(keyPrefix.size())) {
+            digits = digits && c >= '0' && c <= '9';
+            index = index * 10 + static_cast<std::size_t>(c - '0');
+        }
+        if (!digits)
             continue;
-        const std::size_t slot = static_cast<std::size_t>(index);
-        if (slot >= values.size())
-            values.resize(slot + 1, nullptr);
-        values[slot] = &entry.value; // a later line of the same key replaces an earlier one
+        if (index >= values.size())
+            values.resize(index + 1, nullptr);
+        values[index] = &entry; // a later line of the same key replaces an earlier one
     }
     return values;
 }
 
-namespace {
+std::string_view PropertyFile::valueAsRead(const Entry& entry, std::string& expanded) const {
+    const std::string_view value = valueOf(entry);
+    if (value.find("${") == std::string_view::npos)
+        return value;
+    if (!indexed)
+        indexByKey(); // each reference is a look-up
+    expanded = getString(std::string(keyOf(entry)));
+    return expanded;
+}
 
-/// `open(installationFile)`, or `open(defaultFile)` when Poco cannot open the installation file or
-/// does not find it, with the matching info line.
-template <class Open>
-auto openEither(const std::string& installationFile, const std::string& defaultFile, Logger* logger,
-                const std::string& textWhenUnopenable, const std::string& textWhenNotFound, Open open) {
+Poco::AutoPtr<PropertyFile> readInstallationOrDefault(const std::string& installationFile,
+                                                      const std::string& defaultFile, Logger* logger,
+                                                      const std::string& textWhenUnopenable,
+                                                      const std::string& textWhenNotFound) {
     try {
-        return open(installationFile);
+        return PropertyFile::read(installationFile);
     } catch (const Poco::OpenFileException&) {
         logger->info(textWhenUnopenable);
     } catch (const Poco::FileNotFoundException&) {
         logger->info(textWhenNotFound);
     }
-    return open(defaultFile);
-}
-
-} // namespace
-
-PropertyFile openInstallationOrDefault(const std::string& installationFile, const std::string& defaultFile,
-                                       Logger* logger, const std::string& textWhenUnopenable,
-                                       const std::string& textWhenNotFound) {
-    return openEither(installationFile, defaultFile, logger, textWhenUnopenable, textWhenNotFound,
-                      [](const std::string& path) { return PropertyFile(new PropertyFileReader(path)); });
-}
-
-std::unique_ptr<PropertyTable> openTableOrDefault(const std::string& installationFile,
-                                                  const std::string& defaultFile, Logger* logger,
-                                                  const std::string& textWhenUnopenable,
-                                                  const std::string& textWhenNotFound) {
-    return openEither(installationFile, defaultFile, logger, textWhenUnopenable, textWhenNotFound,
-                      [](const std::string& path) { return std::make_unique<PropertyTable>(path); });
+    return PropertyFile::read(defaultFile);
 }
 
 std::string leadingDigits(std::string_view value) {

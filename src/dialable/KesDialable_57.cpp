@@ -22,9 +22,10 @@ KesDialable_57::KesDialable_57() : operatorPrefix(DEFAULT_OP_PREFIX) {
     // The first missing "OP_" key ends the list, as it ends every file; whatever came before it
     // stays loaded, so a gap in the numbering hides the keys after it.
     try {
-        PropertyTable file(KesNumberingConfig::configFile("tz310cnp_57.properties"));
-        operatorPrefix = file.getString(OP_DEFAULT_KEY, DEFAULT_OP_PREFIX);
-        file.forEachIndexedValue(
+        const Poco::AutoPtr<PropertyFile> file =
+            PropertyFile::read(KesNumberingConfig::configFile("tz310cnp_57.properties"));
+        operatorPrefix = file->getString(OP_DEFAULT_KEY, DEFAULT_OP_PREFIX);
+        file->forEachIndexedValue(
             "OP_", [this](std::string_view value) { operatorTree->insert(leadingDigits(value)); });
     } catch (const std::exception& e) {
         if (Logger::m_Traces)
