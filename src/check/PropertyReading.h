@@ -25,9 +25,6 @@ struct PropertyText {
 /// directory, a FIFO or a device cannot be opened: the check never waits for a writer.
 PropertyText openPropertyFile(const std::string& path);
 
-/// The leading run of decimal digits of a numbered value, all that the plans keep of it.
-std::string leadingDigits(std::string_view value);
-
 } // namespace configcheck
 } // namespace numbering
 

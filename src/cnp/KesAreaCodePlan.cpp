@@ -23,14 +23,15 @@ KesAreaCodePlan::~KesAreaCodePlan() = default;
 
 void KesAreaCodePlan::loadAreaCodes(const PlanFile& file, Logger* planLogger) {
     try {
-        const Poco::AutoPtr<PropertyFile> properties =
+        const Poco::AutoPtr<NumberedProperties> properties(new NumberedProperties(
             readInstallationOrDefault(KesNumberingConfig::configFile(file.installationFile),
                                       KesNumberingConfig::configFile(file.defaultFile), planLogger,
-                                      file.textWhenUnopenable, file.textWhenNotFound);
+                                      file.textWhenUnopenable, file.textWhenNotFound),
+            "AC_"));
         if (file.readsTranslate)
             translate = translateOn(properties->getString("Translate"));
         // The list ends at the first missing key (a gap included), by exception like a normal file.
-        properties->forEachIndexedValue("AC_", [this](std::string_view value) {
+        properties->forEachNumberedValue([this](std::string_view value) {
             std::string digits = leadingDigits(value);
             if (static_cast<int>(digits.size()) > maxAreaCodeLength)
                 maxAreaCodeLength = static_cast<int>(digits.size());

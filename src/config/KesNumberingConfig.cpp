@@ -42,9 +42,9 @@ template <class LoadKey>
 bool loadEachKey(const std::string& directory, Logger* logger, const std::string& fileStem,
                  const std::string& textWhenNoFile, const char* operation, LoadKey loadKey) {
     try {
-        const Poco::AutoPtr<PropertyFile> file = readInstallationOrDefault(
+        const auto file = parseProperties(readInstallationOrDefault(
             directory + fileStem + ".properties", directory + fileStem + "_default.properties", logger,
-            textWhenNoFile, textWhenNoFile);
+            textWhenNoFile, textWhenNoFile));
         Poco::Util::AbstractConfiguration::Keys keys;
         file->keys(keys);
         for (const std::string& key : keys)
@@ -100,7 +100,7 @@ KesNumberingConfig::~KesNumberingConfig() {
 bool KesNumberingConfig::loadDialingRules() {
     if (Logger::m_Traces)
         logger->debug("loadDialingRules()");
-    const auto loadRow = [this](const PropertyFile& file, const std::string& code) {
+    const auto loadRow = [this](const Poco::Util::AbstractConfiguration& file, const std::string& code) {
         const DialingRuleFields row = splitDialingRule(file.getString(code));
         const auto& field = row.field;
         Poco::AutoPtr<KesCountryRuleItem> rule(
@@ -126,7 +126,8 @@ bool KesNumberingConfig::loadCountryMasks() {
     if (Logger::m_Traces)
         logger->debug("loadCountryMasks()");
     std::size_t loaded = 0;
-    const auto loadMask = [this, &loaded](const PropertyFile& file, const std::string& key) {
+    const auto loadMask = [this, &loaded](const Poco::Util::AbstractConfiguration& file,
+                                          const std::string& key) {
         const MaskKey maskKey = readMaskKey(key);
         if (maskKey.skipped != MaskKey::Skipped::No)
             return;
@@ -151,7 +152,7 @@ bool KesNumberingConfig::loadCountryMasks() {
 bool KesNumberingConfig::loadSpecificFormatActivation() {
     if (Logger::m_Traces)
         logger->debug("loadSpecificFormatActivation()");
-    const auto loadSwitch = [this](const PropertyFile& file, const std::string& key) {
+    const auto loadSwitch = [this](const Poco::Util::AbstractConfiguration& file, const std::string& key) {
         const std::optional<std::string> activationKey = readActivationKey(key);
         if (!activationKey)
             return;

@@ -6,10 +6,8 @@
 #include <Poco/MemoryStream.h>
 #include <Poco/String.h>
 
-#include <algorithm>
 #include <cerrno>
 #include <fcntl.h>
-#include <set>
 #include <sys/stat.h>
 #include <unistd.h>
 
@@ -72,158 +70,58 @@ std::string readPropertyFile(const std::string& path) {
     return text;
 }
 
-Poco::AutoPtr<PropertyFile> PropertyFile::read(const std::string& path) {
-    return parse(readPropertyFile(path));
-}
-
-Poco::AutoPtr<PropertyFile> PropertyFile::parse(std::string_view text) {
-    return Poco::AutoPtr<PropertyFile>(new PropertyFile(text));
-}
-
-PropertyFile::PropertyFile(std::string_view text) {
-    // A key or a value is never longer than its line: the buffer holds them all without growing.
-    buffer.reserve(text.size());
-    entries.reserve(static_cast<std::size_t>(std::count(text.begin(), text.end(), '\n')) + 1);
-    Poco::MemoryInputStream stream(text.data(), static_cast<std::streamsize>(text.size()));
-    load(stream);
-}
-
-PropertyFile::~PropertyFile() = default;
-
-void PropertyFile::setRaw(const std::string& key, const std::string& value) {
-    const auto at = [this] { return static_cast<std::uint32_t>(buffer.size()); };
-    Entry entry;
-    entry.keyBegin = at();
-    buffer += key;
-    entry.keyLength = static_cast<std::uint32_t>(key.size());
-    entry.valueBegin = at();
-    buffer += value;
-    entry.valueLength = static_cast<std::uint32_t>(value.size());
-    entries.push_back(entry);
-}
-
-std::string_view PropertyFile::keyOf(const Entry& entry) const {
-    return std::string_view(buffer).substr(entry.keyBegin, entry.keyLength);
-}
-
-std::string_view PropertyFile::valueOf(const Entry& entry) const {
-    return std::string_view(buffer).substr(entry.valueBegin, entry.valueLength);
-}
-
-const PropertyFile::Entry* PropertyFile::find(std::string_view key) const {
-    if (indexed) {
-        const auto found = std::lower_bound(
-            byKey.begin(), byKey.end(), key,
-            [this](std::uint32_t entry, std::string_view wanted) { return keyOf(entries[entry]) < wanted; });
-        return found != byKey.end() && keyOf(entries[*found]) == key ? &entries[*found] : nullptr;
-    }
-    for (auto entry = entries.rbegin(); entry != entries.rend(); ++entry)
-        if (keyOf(*entry) == key)
-            return &*entry;
-    return nullptr;
-}
-
-void PropertyFile::indexByKey() const {
-    byKey.resize(entries.size());
-    for (std::size_t entry = 0; entry < entries.size(); ++entry)
-        byKey[entry] = static_cast<std::uint32_t>(entry);
-    // Of the entries of one key, the last comes first and stays.
-    std::sort(byKey.begin(), byKey.end(), [this](std::uint32_t left, std::uint32_t right) {
-        const int order = keyOf(entries[left]).compare(keyOf(entries[right]));
-        return order < 0 || (order == 0 && left > right);
-    });
-    byKey.erase(std::unique(byKey.begin(), byKey.end(),
-                            [this](std::uint32_t left, std::uint32_t right) {
-                                return keyOf(entries[left]) == keyOf(entries[right]);
-                            }),
-                byKey.end());
-    indexed = true;
-}
-
-bool PropertyFile::getRaw(const std::string& key, std::string& value) const {
-    const Entry* entry = find(key);
-    if (entry == nullptr)
-        return false;
-    value.assign(valueOf(*entry));
-    return true;
-}
-
-void PropertyFile::enumerate(const std::string& key, Keys& range) const {
-    // A walk of the keys looks each of them up next: from here on, keys are found by the index.
-    if (!indexed)
-        indexByKey();
-    // As Poco's map answers: every key below `key` in ascending order, cut after its next
-    // component, each once.
-    const std::string prefix = key.empty() ? key : key + '.';
-    std::set<std::string_view> listed;
-    for (std::uint32_t entry : byKey) {
-        const std::string_view full = keyOf(entries[entry]);
-        if (full.compare(0, prefix.size(), prefix) != 0)
-            continue;
-        const std::string_view below = full.substr(prefix.size());
-        const std::string_view component = below.substr(0, below.find('.'));
-        if (listed.insert(component).second)
-            range.emplace_back(component);
-    }
-}
-
-std::string PropertyFile::indexedKey(const std::string& keyPrefix, int index) {
-    std::string key = keyPrefix + "0000";
-    for (std::size_t i = key.size(); index > 0; index /= 10)
-        key[--i] = static_cast<char>('0' + index % 10);
-    return key;
-}
-
-std::vector<const PropertyFile::Entry*> PropertyFile::indexedEntries(const std::string& keyPrefix) const {
-    std::vector<const Entry*> values;
-    for (const Entry& entry : entries) {
-        const std::string_view key = keyOf(entry);
-        if (key.size() != keyPrefix.size() + 4 || key.compare(0, keyPrefix.size(), keyPrefix) != 0)
-            continue;
-        std::size_t index = 0;
-        bool digits = true;
-        for (char c : key.substr(keyPrefix.size())) {
-            digits = digits && c >= '0' && c <= '9';
-            index = index * 10 + static_cast<std::size_t>(c - '0');
-        }
-        if (!digits)
-            continue;
-        if (index >= values.size())
-            values.resize(index + 1, nullptr);
-        values[index] = &entry; // a later line of the same key replaces an earlier one
-    }
-    return values;
-}
-
-std::string_view PropertyFile::valueAsRead(const Entry& entry, std::string& expanded) const {
-    const std::string_view value = valueOf(entry);
-    if (value.find("${") == std::string_view::npos)
-        return value;
-    if (!indexed)
-        indexByKey(); // each reference is a look-up
-    expanded = getString(std::string(keyOf(entry)));
-    return expanded;
-}
-
-Poco::AutoPtr<PropertyFile> readInstallationOrDefault(const std::string& installationFile,
-                                                      const std::string& defaultFile, Logger* logger,
-                                                      const std::string& textWhenUnopenable,
-                                                      const std::string& textWhenNotFound) {
+std::string readInstallationOrDefault(const std::string& installationFile, const std::string& defaultFile,
+                                      Logger* logger, const std::string& textWhenUnopenable,
+                                      const std::string& textWhenNotFound) {
     try {
-        return PropertyFile::read(installationFile);
+        return readPropertyFile(installationFile);
     } catch (const Poco::OpenFileException&) {
         logger->info(textWhenUnopenable);
     } catch (const Poco::FileNotFoundException&) {
         logger->info(textWhenNotFound);
     }
-    return PropertyFile::read(defaultFile);
+    return readPropertyFile(defaultFile);
 }
 
-std::string leadingDigits(std::string_view value) {
-    std::string_view::size_type end = 0;
-    while (end < value.size() && value[end] >= '0' && value[end] <= '9')
-        ++end;
-    return std::string(value.substr(0, end));
+Poco::AutoPtr<Poco::Util::PropertyFileConfiguration> parseProperties(std::string_view text) {
+    Poco::MemoryInputStream stream(text.data(), static_cast<std::streamsize>(text.size()));
+    return new Poco::Util::PropertyFileConfiguration(stream);
+}
+
+NumberedProperties::NumberedProperties(std::string_view text, std::string keyPrefix)
+    : keyPrefix(std::move(keyPrefix)) {
+    buffer.reserve(text.size()); // no value is longer than the text it is read from
+    // Poco hands every property to setRaw() as it reads them, which is ours once this object is
+    // whole: the load cannot go through the base class's constructor.
+    Poco::MemoryInputStream stream(text.data(), static_cast<std::streamsize>(text.size()));
+    load(stream);
+}
+
+NumberedProperties::~NumberedProperties() = default;
+
+void NumberedProperties::setRaw(const std::string& key, const std::string& value) {
+    const int index = numberedIndex(keyPrefix, key);
+    if (index < 0) {
+        PropertyFileConfiguration::setRaw(key, value);
+        return;
+    }
+    const auto slot = static_cast<std::size_t>(index);
+    if (slot >= values.size())
+        values.resize(slot + 1);
+    values[slot] =
+        Value{static_cast<std::uint32_t>(buffer.size()), static_cast<std::uint32_t>(value.size()), true};
+    buffer += value;
+}
+
+bool NumberedProperties::getRaw(const std::string& key, std::string& value) const {
+    const int index = numberedIndex(keyPrefix, key);
+    if (index < 0)
+        return PropertyFileConfiguration::getRaw(key, value);
+    const auto slot = static_cast<std::size_t>(index);
+    if (slot >= values.size() || !values[slot].present)
+        return false;
+    value.assign(valueOf(values[slot]));
+    return true;
 }
 
 } // namespace numbering

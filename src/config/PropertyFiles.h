@@ -5,6 +5,8 @@
 // country plans, the Colombian dialing strategy and the configuration check: one way to open a
 // file, and Poco's PropertyFileConfiguration to read it.
 
+#include "PropertyRules.h"
+
 #include <Poco/AutoPtr.h>
 #include <Poco/Exception.h>
 #include <Poco/Util/PropertyFileConfiguration.h>
@@ -24,77 +26,64 @@ namespace numbering {
 /// A FIFO is never waited on.
 std::string readPropertyFile(const std::string& path);
 
-/// A property file read by Poco's PropertyFileConfiguration, which keeps the properties in file
-/// order in one flat buffer instead of a map of strings: the plan files hold thousands of
-/// properties of which a plan looks up a handful by name and walks one numbered list once. It
-/// answers as Poco's own configuration does: getString() gives the last value of a key with its
-/// references ("${...}") expanded, keys() the root keys in ascending order.
-class PropertyFile : public Poco::Util::PropertyFileConfiguration {
-public:
-    /// The properties of the file at `path` (readPropertyFile()'s exceptions).
-    static Poco::AutoPtr<PropertyFile> read(const std::string& path);
-    /// The properties of `text`, the content of a property file.
-    static Poco::AutoPtr<PropertyFile> parse(std::string_view text);
+/// The content of `installationFile`; when it cannot be opened (Poco::OpenFileException) or does
+/// not exist (Poco::FileNotFoundException), logs the matching text at info level and reads
+/// `defaultFile` instead. The two files are never merged. A default file that cannot be read
+/// either throws.
+std::string readInstallationOrDefault(const std::string& installationFile, const std::string& defaultFile,
+                                      Logger* logger, const std::string& textWhenUnopenable,
+                                      const std::string& textWhenNotFound);
 
-    /// Calls `visit(value)` for the keys keyPrefix + "%04d" from 0000 on, in order, up to 9998, each
+/// Poco's reading of `text`, the content of a property file.
+Poco::AutoPtr<Poco::Util::PropertyFileConfiguration> parseProperties(std::string_view text);
+
+/// Poco's reading of a file that holds a numbered list (keyPrefix + "%04d": "AC_0000", "AC_0001",
+/// ...), as the plan files do by the thousand. The list's keys are kept by their index as Poco
+/// reads them, not in Poco's map: the plan walks them once, in order. They answer getString() as
+/// any key does, but keys() does not list them.
+class NumberedProperties : public Poco::Util::PropertyFileConfiguration {
+public:
+    NumberedProperties(std::string_view text, std::string keyPrefix);
+
+    /// Calls `visit(value)` for the keys of the list from index 0000 on, in order, up to 9998, each
     /// value as getString() answers it. The first missing key ends the list by throwing
-    /// Poco::NotFoundException, as getString() does for it (a normal file ends so).
-    template <class Visit> void forEachIndexedValue(const std::string& keyPrefix, Visit visit) const;
+    /// Poco::NotFoundException, as getString() does for it: a normal file ends so.
+    template <class Visit> void forEachNumberedValue(Visit visit) const;
 
 protected:
-    ~PropertyFile() override;
+    ~NumberedProperties() override;
 
     bool getRaw(const std::string& key, std::string& value) const override;
     void setRaw(const std::string& key, const std::string& value) override;
-    void enumerate(const std::string& key, Keys& range) const override;
 
 private:
-    explicit PropertyFile(std::string_view text);
-
-    struct Entry {
-        std::uint32_t keyBegin, keyLength, valueBegin, valueLength; // in `buffer`
+    /// Where a value of the list stands in `buffer`.
+    struct Value {
+        std::uint32_t begin = 0, length = 0;
+        bool present = false;
     };
-    std::string_view keyOf(const Entry& entry) const;
-    std::string_view valueOf(const Entry& entry) const;
-    /// The last entry of `key`, or null.
-    const Entry* find(std::string_view key) const;
-    /// Fills byKey.
-    void indexByKey() const;
-    /// For each index of keyPrefix + "%04d", the last entry of that key (null where there is none).
-    std::vector<const Entry*> indexedEntries(const std::string& keyPrefix) const;
-    /// The value of `entry`, expanded into `expanded` when it refers to other properties.
-    std::string_view valueAsRead(const Entry& entry, std::string& expanded) const;
-    static std::string indexedKey(const std::string& keyPrefix, int index);
+    std::string_view valueOf(const Value& value) const {
+        return std::string_view(buffer).substr(value.begin, value.length);
+    }
 
-    std::string buffer;         // every key and value, one after the other
-    std::vector<Entry> entries; // in file order
-    /// The last entry of each key, in ascending key order: made by the first walk of the keys (the
-    /// store's files) or the first reference to expand, not for a plan file that is looked up by a
-    /// few keys only. A file is read by one thread at a time.
-    mutable std::vector<std::uint32_t> byKey;
-    mutable bool indexed = false;
+    std::string keyPrefix;
+    std::string buffer;        // the values of the list, one after the other
+    std::vector<Value> values; // by index; a later line of a key replaces an earlier one
 };
 
-/// Reads `installationFile`; when it cannot be opened (Poco's OpenFileException) or does not exist
-/// (FileNotFoundException), logs the matching text at info level and reads `defaultFile` instead.
-/// The two files are never merged. A default file that cannot be read either throws.
-Poco::AutoPtr<PropertyFile> readInstallationOrDefault(const std::string& installationFile,
-                                                      const std::string& defaultFile, Logger* logger,
-                                                      const std::string& textWhenUnopenable,
-                                                      const std::string& textWhenNotFound);
-
-/// The leading run of decimal digits of `value` ("30 Berlin" gives "30").
-std::string leadingDigits(std::string_view value);
-
-template <class Visit>
-void PropertyFile::forEachIndexedValue(const std::string& keyPrefix, Visit visit) const {
-    const std::vector<const Entry*> values = indexedEntries(keyPrefix);
+template <class Visit> void NumberedProperties::forEachNumberedValue(Visit visit) const {
     std::string expanded;
-    for (int index = 0; index <= 9998; ++index) {
-        const std::size_t slot = static_cast<std::size_t>(index);
-        if (slot >= values.size() || values[slot] == nullptr)
-            throw Poco::NotFoundException(indexedKey(keyPrefix, index));
-        visit(valueAsRead(*values[slot], expanded));
+    for (int index = 0; index <= LAST_NUMBERED_INDEX; ++index) {
+        const auto slot = static_cast<std::size_t>(index);
+        if (slot >= values.size() || !values[slot].present)
+            throw Poco::NotFoundException(numberedKey(keyPrefix, index));
+        const std::string_view value = valueOf(values[slot]);
+        if (value.find("${") == std::string_view::npos) {
+            visit(value);
+        } else {
+            expanded = getString(numberedKey(keyPrefix, index));
+            visit(std::string_view(expanded));
+        }
     }
 }
 

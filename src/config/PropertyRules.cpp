@@ -84,6 +84,13 @@ int numberedIndex(std::string_view prefix, std::string_view key) {
     return index;
 }
 
+std::string leadingDigits(std::string_view value) {
+    std::string_view::size_type end = 0;
+    while (end < value.size() && value[end] >= '0' && value[end] <= '9')
+        ++end;
+    return std::string(value.substr(0, end));
+}
+
 std::size_t longestAreaCode(const std::string& callingCode) {
     // "+" calling code " (" area ") " and one subscriber digit, one character short of the limit.
     const std::size_t around = 1 + callingCode.size() + 2 + 2 + 1;

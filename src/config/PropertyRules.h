@@ -60,6 +60,10 @@ std::string numberedKey(const std::string& prefix, int index);
 /// The index of a key of the form prefix + four digits, or -1.
 int numberedIndex(std::string_view prefix, std::string_view key);
 
+/// The leading run of decimal digits of a numbered value ("30 Berlin" gives "30"): all that the
+/// plans keep of it.
+std::string leadingDigits(std::string_view value);
+
 /// The longest area code of calling code `callingCode` under which a number can still be dialled:
 /// a canonical number ("+49 (area) subscriber") of MAX_PHONE_NUMBER_LENGTH characters or more is
 /// never made dialable, even with a one-digit subscriber number.

@@ -22,11 +22,11 @@ KesDialable_57::KesDialable_57() : operatorPrefix(DEFAULT_OP_PREFIX) {
     // The first missing "OP_" key ends the list, as it ends every file; whatever came before it
     // stays loaded, so a gap in the numbering hides the keys after it.
     try {
-        const Poco::AutoPtr<PropertyFile> file =
-            PropertyFile::read(KesNumberingConfig::configFile("tz310cnp_57.properties"));
+        const Poco::AutoPtr<NumberedProperties> file(new NumberedProperties(
+            readPropertyFile(KesNumberingConfig::configFile("tz310cnp_57.properties")), "OP_"));
         operatorPrefix = file->getString(OP_DEFAULT_KEY, DEFAULT_OP_PREFIX);
-        file->forEachIndexedValue(
-            "OP_", [this](std::string_view value) { operatorTree->insert(leadingDigits(value)); });
+        file->forEachNumberedValue(
+            [this](std::string_view value) { operatorTree->insert(leadingDigits(value)); });
     } catch (const std::exception& e) {
         if (Logger::m_Traces)
             logger->debug(std::string("KesDialable_57 : ") + e.what());
