@@ -41,15 +41,19 @@ protected:
 
 } // namespace
 
-TEST_F(PlanFiles, ListEndsAtTheFirstGapOrValueWithoutDigitsAndKeepsLeadingDigitsOnly) {
+// Values as Poco reads them (the last of a key, references expanded); the list ends at the first gap
+// or value without digits; only leading digits count.
+TEST_F(PlanFiles, NumberedList) {
     testconfig::write(installationFile("49"),
-                      "Translate=1\nAC_0000=30 Berlin\nAC_0001=0711\nAC_0002=30\nAC_0004=221\nOther=5\n");
+                      "Translate=1\nbase=3\nAC_0000=${base}0 Berlin\nAC_0001=99\nAC_0001=0711\nAC_0002=30\n"
+                      "AC_0004=221\nOther=5\n");
     testconfig::write(installationFile("31"), "Translate=1\nAC_0000=20\nAC_0001=x10\nAC_0002=10\n");
     Poco::AutoPtr<KesAreaCodePlan> germany = filePlan("49");
     EXPECT_EQ(germany->areaCodeCount, 3) << "a repeated code is counted all the same";
     EXPECT_EQ(germany->maxAreaCodeLength, 4);
     EXPECT_EQ(germany->areaCodeTree->extractAreaCode("3012"), "30");
     EXPECT_EQ(germany->areaCodeTree->extractAreaCode("07119"), "0711") << "loaded as written";
+    EXPECT_EQ(germany->areaCodeTree->extractAreaCode("9912"), "") << "the last value of a key counts";
     EXPECT_EQ(germany->areaCodeTree->extractAreaCode("2219"), "") << "behind the gap";
     EXPECT_EQ(filePlan("31")->areaCodeCount, 1);
 }

@@ -5,6 +5,7 @@
 
 #include "numbering/KesAreaCodeTree.h"
 #include "numbering/KesCNP.h"
+#include "numbering/KesCharsTreeElement.h"
 #include "numbering/KesClid.h"
 #include "numbering/KesCountryRuleItem.h"
 #include "numbering/KesDialRulesItem.h"
@@ -90,11 +91,13 @@ std::vector<std::string> convert(const Case& c) {
     return results;
 }
 
+/// After a reset every object the library made is gone.
 void expectEverythingReleased() {
     KesNumberingRules::resetInstance();
     EXPECT_EQ(KesCNP::_count, 0);
     EXPECT_EQ(KesDialable::_count, 0);
     EXPECT_EQ(KesAreaCodeTree::_count, 0);
+    EXPECT_EQ(KesCharsTreeElement::_count, 0);
     EXPECT_EQ(KesCountryRuleItem::_count, 0);
     EXPECT_EQ(KesClid::_count, 0);
 }
