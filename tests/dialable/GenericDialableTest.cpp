@@ -3,13 +3,11 @@
 #include "numbering/KesCountryRuleItem.h"
 #include "numbering/KesDialRulesItem.h"
 #include "numbering/KesDialable.h"
-#include "numbering/KesDialableManager.h"
 
 #include <Poco/AutoPtr.h>
 #include <gtest/gtest.h>
 
 #include <string>
-#include <typeinfo>
 #include <vector>
 
 using namespace numbering;
@@ -84,16 +82,6 @@ TEST_F(GenericDialable, LongDistanceAndLocalRulesMergeThePrefix) {
         EXPECT_EQ(strategy.makeLocalDialableNumber(area, number, local.get()), c.expected)
             << "local " << c.rule << " " << c.area << "/" << c.number;
     }
-}
-
-TEST_F(GenericDialable, ManagerCachesOneStrategyPerCountry) {
-    KesDialableManager* manager = KesDialableManager::getInstance();
-    EXPECT_EQ(manager->getDialable(""), nullptr);
-    KesDialable* unknown = manager->getDialable("999");
-    ASSERT_NE(unknown, nullptr);
-    EXPECT_EQ(typeid(*unknown), typeid(KesDialable));
-    EXPECT_EQ(manager->getDialable("57"), manager->getDialable("57"));
-    EXPECT_EQ(manager->getDialable("999"), unknown);
 }
 
 } // namespace
