@@ -1,16 +1,20 @@
 #include "FacadeWorld.h"
 
+#include "numbering/KesClid.h"
+#include "numbering/KesEnumOrigin.h"
 #include "numbering/KesNumberingConfig.h"
+
+#include <Poco/AutoPtr.h>
 
 #include <string>
 #include <vector>
 
 using namespace numbering;
-using facadeworld::FacadeTest;
+using facadeworld::invalidArgumentText;
 
 namespace {
 
-class Facade : public FacadeTest {};
+class Facade : public facadeworld::FacadeTest {};
 
 TEST_F(Facade, CountryLookUpsPassThroughTheStore) {
     std::vector<std::string> names = facade->getCountryList();
@@ -37,6 +41,43 @@ TEST_F(Facade, ResetRereadsTheFiles) {
     EXPECT_EQ(KesNumberingConfig::instance, nullptr);
     facade = KesNumberingRules::getInstance();
     EXPECT_EQ(facade->getCountryName("SE"), "Konungariket Sverige");
+}
+
+// The shortest form that tells the caller apart, and where the call comes from.
+TEST_F(Facade, CallerLineIdentities) {
+    KesDialRulesItem stockholm = facadeworld::stockholm(5), minsk("BY", "0", 0, "17", 0, "");
+    struct Case {
+        KesDialRulesItem* rules;
+        const char *calling, *number;
+        const KesEnumOrigin* origin;
+    } const cases[] = {
+        {&stockholm, "+46 8 123 456 78", "12345678", &KesEnumOrigin::PUBLIC_1}, // the own area
+        {&stockholm, "+46 31 123 456", "31123456", &KesEnumOrigin::NATIONAL},
+        // The national prefix in the parentheses, in place of an area code.
+        {&stockholm, "08 123 456 78", "812345678", &KesEnumOrigin::NATIONAL},
+        {&stockholm, "+39 06 1234", "39061234", &KesEnumOrigin::INTERNATIONAL},
+        // Abroad, with a national prefix equal to the installation's own: left out ...
+        {&stockholm, "+48 (0) 22 123 45 67", "48221234567", &KesEnumOrigin::INTERNATIONAL},
+        // ... the installation's, not the calling country's: Belarus writes "8".
+        {&minsk, "+48 (0) 22 123 45 67", "480221234567", &KesEnumOrigin::INTERNATIONAL},
+        {&minsk, "+46 (8) 123", "46123", &KesEnumOrigin::INTERNATIONAL},
+        // Not canonical: a local number and a service code.
+        {&stockholm, "1234", "1234", &KesEnumOrigin::PRIVATE_1},
+        {&stockholm, "*21#", "*21#", &KesEnumOrigin::PRIVATE_1},
+    };
+    for (const Case& c : cases) {
+        Poco::AutoPtr<KesClid> clid(facade->makeClid(c.rules, c.calling));
+        ASSERT_FALSE(clid.isNull()) << c.calling;
+        EXPECT_EQ(clid->getNumber(), c.number) << c.calling;
+        EXPECT_EQ(clid->getOrigin(), c.origin) << c.calling << " is " << clid->getOrigin()->name;
+    }
+    const int before = KesClid::_count;
+    EXPECT_EQ(facade->makeClid(&stockholm, "0123x"), nullptr);
+    EXPECT_EQ(KesClid::_count, before);
+    EXPECT_EQ(invalidArgumentText([&] { facade->makeClid(nullptr, ""); }),
+              "'myKesDialRulesItem' parameter can not be null");
+    EXPECT_EQ(invalidArgumentText([&] { facade->makeClid(&stockholm, ""); }),
+              "'strPhoneNumber' parameter can not be null");
 }
 
 } // namespace
