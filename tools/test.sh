@@ -1,17 +1,22 @@
 #!/usr/bin/env bash
-# Sets up a fresh Debian 12 machine (as root) with what the build needs, then builds and runs every
-# test of the library three ways: the normal build (with the checks of what is shipped: exported
-# symbols, prefix install, Debian packages under lintian, generated configuration, and the API
-# reference without a Doxygen warning), the whole suite under AddressSanitizer and UBSan (with a short
-# run of each fuzzer), and the concurrency test under ThreadSanitizer.
+# Sets up a fresh Debian 12 machine (as root) with what the build needs, checks that every C++ file
+# is laid out as the committed .clang-format lays it out, then builds and runs every test of the
+# library three ways: the normal build (with the checks of what is shipped: exported symbols, prefix
+# install, Debian packages under lintian, generated configuration, and the API reference without a
+# Doxygen warning), the whole suite under AddressSanitizer and UBSan (with a short run of each
+# fuzzer), and the concurrency test under ThreadSanitizer.
 set -euo pipefail
 cd "$(dirname "$0")/.."
 
-bash tools/install-packages.sh cmake make g++ clang libclang-rt-14-dev pkg-config python3 scdoc groff-base \
-  libpoco-dev libgtest-dev libgmock-dev libbenchmark-dev dpkg-dev file lintian doxygen
+bash tools/install-packages.sh cmake make g++ clang libclang-rt-14-dev clang-format-14 pkg-config python3 scdoc \
+  groff-base libpoco-dev libgtest-dev libgmock-dev libbenchmark-dev dpkg-dev file lintian doxygen
 
 jobs=$(nproc)
 fuzz_seconds=${NUMBERING_FUZZ_SECONDS:-30}
+
+echo "== formatting: every C++ file as the committed .clang-format lays it out"
+find include src tests tools bench fuzz examples -name '*.h' -o -name '*.cpp' | sort |
+  xargs clang-format-14 --dry-run --Werror
 
 echo "== normal build"
 cmake -S . -B build -DCMAKE_BUILD_TYPE=RelWithDebInfo -DNUMBERING_BUILD_BENCH=ON >/dev/null
