@@ -137,24 +137,3 @@ TEST_F(HostileConfiguration, HugeFiles) {
     EXPECT_GT(convertEverything(), 0);
     EXPECT_EQ(KesNumberingConfig::getInstance()->getCountryNumber("DE"), "49");
 }
-
-// The plans of France, Russia and Argentina, and the Russian and Argentine dialing, look their
-// country up by its two-letter key: without it they fall back to an empty national prefix.
-TEST_F(HostileConfiguration, RulesWithoutTheCountriesPlansLookUp) {
-    testconfig::write("dialingrules.properties", "DE = 49:00:EF:0F::Germany:P\n"
-                                                 "KZ = 7:810:EF:8F::Kazakhstan:P\n"
-                                                 "XA = 54:00:EF:0F::Argentine Republic:P\n"
-                                                 "XF = 33:00:EF:0F::French Republic:P\n");
-    testconfig::write("dlr_cnp_mask.properties", testconfig::identityMasks());
-    testconfig::write("tz310cnp_54.properties", "Translate=1\nAC_0000=11\n");
-    testconfig::reload();
-    EXPECT_GT(convertEverything(), 0);
-
-    KesNumberingRules* rules = KesNumberingRules::getInstance();
-    KesDialRulesItem kazakhstan("KZ", "0", 0, "727", 0, "");
-    EXPECT_EQ(rules->makeCanonicalNumber(&kazakhstan, "84951234567", ""), "+7 (495) 1234567");
-    KesDialRulesItem argentina("XA", "0", 0, "11", 0, "");
-    EXPECT_FALSE(rules->makePhoneNumber(&argentina, "+54 (11) 43215678").empty());
-    KesDialRulesItem france("XF", "0", 0, "1", 0, "");
-    EXPECT_EQ(rules->makeCanonicalNumber(&france, "0123456789", ""), "+33 (0) 123456789");
-}
