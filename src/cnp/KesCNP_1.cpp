@@ -56,12 +56,11 @@ std::string KesCNP_1::dlr_Country_MakeCanonicalNumber(std::string number, KesDia
         // Without an own area code the local number still gets a canonical form, with a visible
         // "?" where the area code belongs.
         std::string area = rules->getAreaCode();
-        return plantext::canonicalNumber("1", area.empty() ? std::string_view("?") : std::string_view(area),
-                                         cur);
+        return canonicalNumber("1", area.empty() ? std::string_view("?") : std::string_view(area), cur);
     }
     if (isZeroOrOne(cur[0]) || isZeroOrOne(cur[3]))
         return number;
-    return plantext::canonicalNumber("1", cur.substr(0, 3), cur.substr(3));
+    return canonicalNumber("1", cur.substr(0, 3), cur.substr(3));
 }
 
 } // namespace numbering

@@ -1,10 +1,11 @@
 #include "numbering/KesNumberingRules.h"
 
+#include "ConversionGuard.h"
+#include "FacadeInternals.h"
+#include "common/NumberText.h"
 #include "config/Configuration.h"
 #include "numbering/KesDialRulesItem.h"
 #include "numbering/Logger.h"
-#include "rules/ConversionGuard.h"
-#include "rules/NumberText.h"
 
 #include <algorithm>
 
