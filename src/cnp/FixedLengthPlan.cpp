@@ -21,10 +21,8 @@ std::string nationalPrefix(const char* countryKey) {
 
 std::string makeFixedLengthCanonicalNumber(const FixedLengthPlan& plan, Logger* logger, std::string number,
                                            KesDialRulesItem* rules) {
-    if (rules == nullptr)
+    if (!plantext::entered(number, rules, logger))
         return number;
-    if (Logger::m_Traces)
-        logger->debug(plantext::entryTrace(number, rules));
 
     // Any number of the national length is national, whatever its first digit.
     if (number.size() == plan.nationalLength)

@@ -29,10 +29,8 @@ KesCNP_1::KesCNP_1() {
 KesCNP_1::~KesCNP_1() = default;
 
 std::string KesCNP_1::dlr_Country_MakeCanonicalNumber(std::string number, KesDialRulesItem* rules) {
-    if (rules == nullptr)
+    if (!plantext::entered(number, rules, logger))
         return number;
-    if (Logger::m_Traces)
-        logger->debug(plantext::entryTrace(number, rules));
 
     // The outside-line prefix plays no part: only a single leading 0 or 1 is dropped.
     std::string_view cur = number;

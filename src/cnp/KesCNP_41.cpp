@@ -19,10 +19,8 @@ KesCNP_41::KesCNP_41() {
 KesCNP_41::~KesCNP_41() = default;
 
 std::string KesCNP_41::dlr_Country_MakeCanonicalNumber(std::string number, KesDialRulesItem* rules) {
-    if (rules == nullptr)
+    if (!plantext::entered(number, rules, logger))
         return number;
-    if (Logger::m_Traces)
-        logger->debug(plantext::entryTrace(number, rules));
 
     std::string_view cur = number;
     if (cur.size() <= 8)

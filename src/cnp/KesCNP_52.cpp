@@ -90,10 +90,8 @@ bool KesCNP_52::place(std::string_view number, KesDialRulesItem* rules, std::str
 }
 
 std::string KesCNP_52::dlr_Country_MakeCanonicalNumber(std::string number, KesDialRulesItem* rules) {
-    if (rules == nullptr)
+    if (!plantext::entered(number, rules, logger))
         return number;
-    if (Logger::m_Traces)
-        logger->debug(plantext::entryTrace(number, rules));
     std::string result;
     if (!place(number, rules, result)) {
         // Only a number that cannot be placed as it stands is looked at behind the outside-line prefix.

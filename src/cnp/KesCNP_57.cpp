@@ -48,10 +48,8 @@ KesCNP_57::~KesCNP_57() {
 }
 
 std::string KesCNP_57::dlr_Country_MakeCanonicalNumber(std::string number, KesDialRulesItem* rules) {
-    if (rules == nullptr)
+    if (!plantext::entered(number, rules, logger))
         return number;
-    if (Logger::m_Traces)
-        logger->debug(plantext::entryTrace(number, rules));
     std::string result = canonical(number, rules);
     // The trace names Argentina although this is the Colombian plan; the text is kept as it stands.
     if (Logger::m_Traces)

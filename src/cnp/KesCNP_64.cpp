@@ -95,10 +95,8 @@ KesCNP_64::KesCNP_64() {
 KesCNP_64::~KesCNP_64() = default;
 
 std::string KesCNP_64::dlr_Country_MakeCanonicalNumber(std::string number, KesDialRulesItem* rules) {
-    if (rules == nullptr)
+    if (!plantext::entered(number, rules, logger))
         return number;
-    if (Logger::m_Traces)
-        logger->debug(plantext::entryTrace(number, rules));
     // Service codes and anything else that is not plain digits are not numbers of the plan.
     if (number.empty() || !allDigits(number))
         return number;

@@ -6,6 +6,7 @@
 
 #include "common/NumberText.h"
 #include "numbering/KesDialRulesItem.h"
+#include "numbering/Logger.h"
 
 #include <string>
 #include <string_view>
@@ -22,6 +23,16 @@ inline std::string callTrace(const char* operation, const std::string& number, K
 /// The text every plan traces on entry: "dlr_Country_MakeCanonicalNumber('<number>', '<rules>')".
 inline std::string entryTrace(const std::string& number, KesDialRulesItem* rules) {
     return callTrace("dlr_Country_MakeCanonicalNumber", number, rules);
+}
+
+/// A plan's way in: without dialing rules the number comes back unchanged (false); otherwise the
+/// entry is traced.
+inline bool entered(const std::string& number, KesDialRulesItem* rules, Logger* planLogger) {
+    if (rules == nullptr)
+        return false;
+    if (Logger::m_Traces)
+        planLogger->debug(entryTrace(number, rules));
+    return true;
 }
 
 } // namespace plantext

@@ -44,10 +44,8 @@ bool KesAreaCodePlan::placeNational(const TwoPassRules& plan, std::string_view w
 
 std::string KesAreaCodePlan::convertInTwoPasses(const TwoPassRules& plan, const std::string& number,
                                                 KesDialRulesItem* rules, Logger* planLogger) {
-    if (rules == nullptr)
+    if (!plantext::entered(number, rules, planLogger))
         return number;
-    if (Logger::m_Traces)
-        planLogger->debug(plantext::entryTrace(number, rules));
     if (number.size() < SHORTEST)
         return number;
     std::string result;
