@@ -33,7 +33,8 @@ struct NumberKind {
     KesDialRulesItem* installation;
     /// The rules of another country's national number: KesDialRulesItem(countryCode, "", 0, "", 0,
     /// ""), no outside-line prefix and no area code. A code the store gave is valid, as the
-    /// constructor requires.
+    /// constructor requires. Made for every such number: keeping the last ones per thread saved
+    /// less than half a percent of a conversion's instructions.
     std::optional<KesDialRulesItem> destination;
 
     explicit NumberKind(KesDialRulesItem* rules) : installation(rules) {}
