@@ -54,8 +54,6 @@ protected:
     /// Puts `prefix` in front of `result` unless `result` already begins with it or with a leading
     /// part of it, which is completed rather than doubled ("0" and "01234" stay "01234").
     static void mergePrefix(std::string& result, const std::string& prefix);
-    /// The empty result string of a strategy operation.
-    static std::string reservedResult();
     /// The area field of an international number: empty when it is exactly the destination country's
     /// national prefix (a canonical number that carries it in place of an area code), else unchanged.
     static void dropDestinationNationalPrefix(const std::string& country, std::string& areaNatPfx);

@@ -21,10 +21,8 @@ std::string nationalPrefix(const char* countryKey) {
 
 std::string makeFixedLengthCanonicalNumber(const FixedLengthPlan& plan, Logger* logger, std::string number,
                                            KesDialRulesItem* rules) {
-    if (rules == nullptr)
+    if (!plantext::entered(number, rules, logger))
         return number;
-    if (Logger::m_Traces)
-        logger->debug(plantext::entryTrace(number, rules));
 
     // Any number of the national length is national, whatever its first digit.
     if (number.size() == plan.nationalLength)
@@ -32,15 +30,15 @@ std::string makeFixedLengthCanonicalNumber(const FixedLengthPlan& plan, Logger* 
 
     std::string natPfx = nationalPrefix(plan.countryKey);
     if (natPfx.size() + number.size() == plan.nationalLength &&
-        !(plan.completesOnlyUnprefixed && plantext::beginsWith(number, natPfx)) &&
-        !rules->isLocalNumber(number) && !rules->isExceptionNumber(number)) {
+        !(plan.completesOnlyUnprefixed && startsWith(number, natPfx)) && !rules->isLocalNumber(number) &&
+        !rules->isExceptionNumber(number)) {
         if (Logger::m_Traces)
             logger->debug("National number without national prefix detected : '" + number + "'");
         return plan.canonical(natPfx + number);
     }
 
     std::string ext = rules->getExtPrefix();
-    if (number.size() == plan.nationalLength + ext.size() && plantext::beginsWith(number, ext)) {
+    if (number.size() == plan.nationalLength + ext.size() && startsWith(number, ext)) {
         if (Logger::m_Traces)
             logger->debug("National number with external prefix detected : '" + number + "'");
         return plan.canonical(std::string_view(number).substr(ext.size()));

@@ -32,11 +32,6 @@ std::string malformedDigitMessage(const std::string& digits, std::string::size_t
 } // namespace
 
 KesAreaCodeTree::KesAreaCodeTree() : nodes(1, Node{NO_CHILDREN, false}) {
-    // The trace of a tree built on the character tree: its root node, the tree, then this one.
-    if (Logger::m_Traces)
-        KesCharsTreeElement::logger->debug("KesCharsTreeElement()");
-    if (Logger::m_Traces)
-        KesCharsTree::logger->debug("KesCharsTree()");
     if (Logger::m_Traces)
         logger->debug("KesAreaCodeTree()");
 }
@@ -73,10 +68,6 @@ bool KesAreaCodeTree::insert(std::string strDigits) {
             logger->debug("Insert failed for '" + strDigits + "'");
         return false;
     }
-    // The character tree makes one node per digit of the code, then merges them into the paths it has.
-    if (Logger::m_Traces)
-        for (std::size_t i = 0; i < strDigits.size(); ++i)
-            KesCharsTreeElement::logger->debug("KesCharsTreeElement()");
     std::uint32_t node = 0;
     for (std::size_t i = 0; i < existing; ++i)
         node = child(node, strDigits[i]);

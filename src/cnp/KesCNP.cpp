@@ -6,7 +6,9 @@ int KesCNP::_count = 0;
 
 KesCNP::~KesCNP() = default;
 
-void KesCNP::duplicate() { references.duplicate(); }
+void KesCNP::duplicate() {
+    references.duplicate();
+}
 
 void KesCNP::release() {
     if (references.release())

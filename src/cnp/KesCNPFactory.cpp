@@ -20,7 +20,9 @@ namespace numbering {
 
 namespace {
 
-template <class Plan> KesCNP* make() { return new Plan(); }
+template <class Plan> KesCNP* make() {
+    return new Plan();
+}
 
 struct PlanRow {
     const char* countryNumber;

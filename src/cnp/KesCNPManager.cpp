@@ -40,14 +40,11 @@ KesCNPManager::~KesCNPManager() {
 KesCNP* KesCNPManager::getCNP(std::string country) {
     if (Logger::m_Traces)
         logger->debug("getCNP('" + country + "')");
-    if (Poco::AutoPtr<KesCNP>* known = plans->find(country))
-        return known->get();
-    Poco::FastMutex::ScopedLock lock(mutex);
-    if (Poco::AutoPtr<KesCNP>* known = plans->find(country))
-        return known->get();
-    if (isCountryNotFoundLocked(country))
-        return nullptr;
-    return loadCNPClass(country);
+    return findOrLoad(*plans, mutex, country, [&]() -> KesCNP* {
+        if (isCountryNotFoundLocked(country))
+            return nullptr;
+        return loadCNPClass(country);
+    });
 }
 
 KesCNP* KesCNPManager::loadCNPClass(std::string country) {

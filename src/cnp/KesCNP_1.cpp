@@ -29,10 +29,8 @@ KesCNP_1::KesCNP_1() {
 KesCNP_1::~KesCNP_1() = default;
 
 std::string KesCNP_1::dlr_Country_MakeCanonicalNumber(std::string number, KesDialRulesItem* rules) {
-    if (rules == nullptr)
+    if (!plantext::entered(number, rules, logger))
         return number;
-    if (Logger::m_Traces)
-        logger->debug(plantext::entryTrace(number, rules));
 
     // The outside-line prefix plays no part: only a single leading 0 or 1 is dropped.
     std::string_view cur = number;
@@ -56,12 +54,11 @@ std::string KesCNP_1::dlr_Country_MakeCanonicalNumber(std::string number, KesDia
         // Without an own area code the local number still gets a canonical form, with a visible
         // "?" where the area code belongs.
         std::string area = rules->getAreaCode();
-        return plantext::canonicalNumber("1", area.empty() ? std::string_view("?") : std::string_view(area),
-                                         cur);
+        return canonicalNumber("1", area.empty() ? std::string_view("?") : std::string_view(area), cur);
     }
     if (isZeroOrOne(cur[0]) || isZeroOrOne(cur[3]))
         return number;
-    return plantext::canonicalNumber("1", cur.substr(0, 3), cur.substr(3));
+    return canonicalNumber("1", cur.substr(0, 3), cur.substr(3));
 }
 
 } // namespace numbering

@@ -14,7 +14,8 @@ std::string KesCNP_31::AREA_CODES_DEFAULT_FILE =
 
 namespace {
 
-const KesAreaCodePlan::PlanFile PLAN_FILE = {"tz310cnp_31.properties", "tz310cnp_31_default.properties",
+const KesAreaCodePlan::PlanFile PLAN_FILE = {"tz310cnp_31.properties",
+                                             "tz310cnp_31_default.properties",
                                              "No specific configuration file for Netherlands",
                                              "No specific dialing rules configuration file",
                                              "KesCNP_31",

@@ -14,7 +14,8 @@ std::string KesCNP_32::AREA_CODES_DEFAULT_FILE =
 
 namespace {
 
-const KesAreaCodePlan::PlanFile PLAN_FILE = {"tz310cnp_32.properties", "tz310cnp_32_default.properties",
+const KesAreaCodePlan::PlanFile PLAN_FILE = {"tz310cnp_32.properties",
+                                             "tz310cnp_32_default.properties",
                                              "No specific configuration file for Belgium",
                                              "No specific dialing rules configuration file",
                                              "KesCNP_32",

@@ -14,7 +14,8 @@ std::string KesCNP_353::AREA_CODES_DEFAULT_FILE =
 
 namespace {
 
-const KesAreaCodePlan::PlanFile PLAN_FILE = {"tz310cnp_353.properties", "tz310cnp_353_default.properties",
+const KesAreaCodePlan::PlanFile PLAN_FILE = {"tz310cnp_353.properties",
+                                             "tz310cnp_353_default.properties",
                                              "No specific dialing rules configuration for Irelandd",
                                              "No specific dialing rules configuration for Ireland",
                                              "KesCNP_353",

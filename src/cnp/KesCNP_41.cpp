@@ -9,8 +9,6 @@
 
 namespace numbering {
 
-using plantext::beginsWith;
-
 Logger* KesCNP_41::logger = Logger::getLogger(typeid(KesCNP_41).name());
 
 KesCNP_41::KesCNP_41() {
@@ -21,10 +19,8 @@ KesCNP_41::KesCNP_41() {
 KesCNP_41::~KesCNP_41() = default;
 
 std::string KesCNP_41::dlr_Country_MakeCanonicalNumber(std::string number, KesDialRulesItem* rules) {
-    if (rules == nullptr)
+    if (!plantext::entered(number, rules, logger))
         return number;
-    if (Logger::m_Traces)
-        logger->debug(plantext::entryTrace(number, rules));
 
     std::string_view cur = number;
     if (cur.size() <= 8)
@@ -33,19 +29,19 @@ std::string KesCNP_41::dlr_Country_MakeCanonicalNumber(std::string number, KesDi
         // Only a national number of 9 or 10 characters behind the outside-line prefix is converted.
         std::string ext = rules->getExtPrefix();
         std::string_view::size_type behind = cur.size() - ext.size();
-        if (!beginsWith(cur, ext) || (behind != 9 && behind != 10))
+        if (!startsWith(cur, ext) || (behind != 9 && behind != 10))
             return number;
         cur.remove_prefix(ext.size());
     }
 
     if (cur.size() == 9) {
-        if (!beginsWith(cur, szLocalNumberPfx))
+        if (!startsWith(cur, szLocalNumberPfx))
             return number;
-        return plantext::canonicalNumber("41", "1", cur.substr(2));
+        return canonicalNumber("41", "1", cur.substr(2));
     }
     if (cur[0] != '0')
         return number;
-    if (beginsWith(cur, szFreePhonePfx)) {
+    if (startsWith(cur, szFreePhonePfx)) {
         // Free-phone numbers are written "+41 800" with the digits straight after, without blank
         // or parentheses: deliberately unlike the area code forms, and kept so.
         std::string result;
@@ -53,7 +49,7 @@ std::string KesCNP_41::dlr_Country_MakeCanonicalNumber(std::string number, KesDi
         result.append("+41 800").append(cur.substr(4));
         return result;
     }
-    return plantext::canonicalNumber("41", cur.substr(1, 2), cur.substr(3));
+    return canonicalNumber("41", cur.substr(1, 2), cur.substr(3));
 }
 
 } // namespace numbering

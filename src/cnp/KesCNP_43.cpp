@@ -16,7 +16,8 @@ std::string KesCNP_43::AREA_CODES_DEFAULT_FILE =
 
 namespace {
 
-const KesAreaCodePlan::PlanFile PLAN_FILE = {"tz310cnp_43.properties", "tz310cnp_43_default.properties",
+const KesAreaCodePlan::PlanFile PLAN_FILE = {"tz310cnp_43.properties",
+                                             "tz310cnp_43_default.properties",
                                              "No specific configuration file for Austria",
                                              "No specific dialing rules configuration file",
                                              "KesCNP_43",

@@ -14,7 +14,8 @@ std::string KesCNP_44::AREA_CODES_DEFAULT_FILE =
 
 namespace {
 
-const KesAreaCodePlan::PlanFile PLAN_FILE = {"tz310cnp_44.properties", "tz310cnp_44_default.properties",
+const KesAreaCodePlan::PlanFile PLAN_FILE = {"tz310cnp_44.properties",
+                                             "tz310cnp_44_default.properties",
                                              "No specific configuration file for Austria",
                                              "No specific dialing rules configuration file",
                                              "KesCNP_44",

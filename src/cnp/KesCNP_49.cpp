@@ -16,7 +16,8 @@ std::string KesCNP_49::AREA_CODES_DEFAULT_FILE =
 
 namespace {
 
-const KesAreaCodePlan::PlanFile PLAN_FILE = {"tz310cnp_49.properties", "tz310cnp_49_default.properties",
+const KesAreaCodePlan::PlanFile PLAN_FILE = {"tz310cnp_49.properties",
+                                             "tz310cnp_49_default.properties",
                                              "No specific dialing rules configuration file",
                                              "No specific dialing rules configuration file",
                                              "KesCNP_49",

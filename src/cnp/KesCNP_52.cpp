@@ -17,7 +17,8 @@ std::string KesCNP_52::AREA_CODES_DEFAULT_FILE =
 
 namespace {
 
-const KesAreaCodePlan::PlanFile PLAN_FILE = {"tz310cnp_52.properties", "tz310cnp_52_default.properties",
+const KesAreaCodePlan::PlanFile PLAN_FILE = {"tz310cnp_52.properties",
+                                             "tz310cnp_52_default.properties",
                                              "No specific configuration file for Mexico",
                                              "No specific dialing rules configuration file",
                                              "KesCNP_52",
@@ -32,14 +33,6 @@ const std::string_view NATIONAL_PREFIX = "01";
 const std::string_view MOBILE_MARKER = "1";
 const std::string_view MOBILE_PREFIXES[] = {"044", "045"};
 const std::string_view TWO_DIGIT_AREA_CODES[] = {"55", "56", "33", "81"};
-
-bool beginsWith(std::string_view text, std::string_view prefix) {
-    return text.substr(0, prefix.size()) == prefix;
-}
-
-bool allDigits(std::string_view text) {
-    return std::all_of(text.begin(), text.end(), [](char c) { return c >= '0' && c <= '9'; });
-}
 
 // Area codes and subscriber numbers begin with 2 to 9: 0 and 1 open prefixes and markers.
 bool beginsLikeANumber(std::string_view digits) {
@@ -58,7 +51,7 @@ KesCNP_52::~KesCNP_52() = default;
 
 bool KesCNP_52::isTwoDigitsAreaCode(std::string number) {
     return std::any_of(std::begin(TWO_DIGIT_AREA_CODES), std::end(TWO_DIGIT_AREA_CODES),
-                       [&](std::string_view code) { return beginsWith(number, code); });
+                       [&](std::string_view code) { return startsWith(number, code); });
 }
 
 // The area code listed in the plan file wins; otherwise the fixed two-or-three-digit rule.
@@ -73,11 +66,11 @@ bool KesCNP_52::place(std::string_view number, KesDialRulesItem* rules, std::str
     if (number.empty() || !allDigits(number))
         return false;
     for (std::string_view mobilePrefix : MOBILE_PREFIXES)
-        if (beginsWith(number, mobilePrefix) && isNationalNumber(number.substr(mobilePrefix.size()))) {
+        if (startsWith(number, mobilePrefix) && isNationalNumber(number.substr(mobilePrefix.size()))) {
             result = placeNationalNumber(MOBILE_HEAD, number.substr(mobilePrefix.size()));
             return true;
         }
-    bool withNationalPrefix = beginsWith(number, NATIONAL_PREFIX);
+    bool withNationalPrefix = startsWith(number, NATIONAL_PREFIX);
     std::string_view rest = withNationalPrefix ? number.substr(NATIONAL_PREFIX.size()) : number;
     if (isNationalNumber(rest)) {
         result = placeNationalNumber(HEAD, rest);
@@ -85,7 +78,7 @@ bool KesCNP_52::place(std::string_view number, KesDialRulesItem* rules, std::str
     }
     // The international mobile form "+52 1 ..." reaches the plan as the mobile marker and the
     // national number, behind the national prefix when the dialing rules give one.
-    if (beginsWith(rest, MOBILE_MARKER) && isNationalNumber(rest.substr(MOBILE_MARKER.size()))) {
+    if (startsWith(rest, MOBILE_MARKER) && isNationalNumber(rest.substr(MOBILE_MARKER.size()))) {
         result = placeNationalNumber(MOBILE_HEAD, rest.substr(MOBILE_MARKER.size()));
         return true;
     }
@@ -97,15 +90,13 @@ bool KesCNP_52::place(std::string_view number, KesDialRulesItem* rules, std::str
 }
 
 std::string KesCNP_52::dlr_Country_MakeCanonicalNumber(std::string number, KesDialRulesItem* rules) {
-    if (rules == nullptr)
+    if (!plantext::entered(number, rules, logger))
         return number;
-    if (Logger::m_Traces)
-        logger->debug(plantext::entryTrace(number, rules));
     std::string result;
     if (!place(number, rules, result)) {
         // Only a number that cannot be placed as it stands is looked at behind the outside-line prefix.
         std::string prefix = rules->getExtPrefix();
-        if (prefix.empty() || !beginsWith(number, prefix) ||
+        if (prefix.empty() || !startsWith(number, prefix) ||
             !place(std::string_view(number).substr(prefix.size()), rules, result))
             result = std::move(number);
     }

@@ -19,7 +19,8 @@ std::string KesCNP_54::AREA_CODES_DEFAULT_FILE =
 
 namespace {
 
-const KesAreaCodePlan::PlanFile PLAN_FILE = {"tz310cnp_54.properties", "tz310cnp_54_default.properties",
+const KesAreaCodePlan::PlanFile PLAN_FILE = {"tz310cnp_54.properties",
+                                             "tz310cnp_54_default.properties",
                                              "No specific configuration file for Argentina",
                                              "No specific configuration file for Argentina",
                                              "KesCNP_54",
@@ -29,10 +30,6 @@ const KesAreaCodePlan::PlanFile PLAN_FILE = {"tz310cnp_54.properties", "tz310cnp
 const std::size_t SHORTEST_LOCAL = 6;
 const std::size_t LONGEST_LOCAL = 8;
 const std::size_t LONGEST = 15;
-
-bool beginsWith(const std::string& text, const std::string& prefix) {
-    return text.compare(0, prefix.size(), prefix) == 0;
-}
 
 } // namespace
 
@@ -63,13 +60,13 @@ bool KesCNP_54::strip(const std::string& number, KesDialRulesItem* rules, Stripp
         return false;
     } else {
         std::string work = number;
-        if (beginsWith(work, nationalPrefix)) {
+        if (startsWith(work, nationalPrefix)) {
             if (Logger::m_Traces)
                 logger->debug("number starts with national prefix:" + nationalPrefix);
             work.erase(0, nationalPrefix.size());
         }
         bool mobile = false;
-        if (beginsWith(work, PREFIX_MOBILE_INTERNATIONAL)) {
+        if (startsWith(work, PREFIX_MOBILE_INTERNATIONAL)) {
             if (Logger::m_Traces)
                 logger->debug("Mobile international prefix is found:" + PREFIX_MOBILE_INTERNATIONAL);
             work.erase(0, PREFIX_MOBILE_INTERNATIONAL.size());
@@ -84,7 +81,7 @@ bool KesCNP_54::strip(const std::string& number, KesDialRulesItem* rules, Stripp
                 return false;
             }
             // The local mobile prefix is looked for in the number as dialled, not behind a national prefix.
-            if (beginsWith(number, PREFIX_MOBILE_NATIONAL)) {
+            if (startsWith(number, PREFIX_MOBILE_NATIONAL)) {
                 if (Logger::m_Traces)
                     logger->debug("number starts with local mobile prefix:" + PREFIX_MOBILE_NATIONAL);
                 work = number.substr(PREFIX_MOBILE_NATIONAL.size());
@@ -96,7 +93,7 @@ bool KesCNP_54::strip(const std::string& number, KesDialRulesItem* rules, Stripp
             if (Logger::m_Traces)
                 logger->debug("Area code is found:" + area);
             work.erase(0, areaLength);
-            if (beginsWith(work, PREFIX_MOBILE_NATIONAL)) {
+            if (startsWith(work, PREFIX_MOBILE_NATIONAL)) {
                 if (Logger::m_Traces)
                     logger->debug("Mobile national prefix is found:" + PREFIX_MOBILE_NATIONAL);
                 work.erase(0, PREFIX_MOBILE_NATIONAL.size());

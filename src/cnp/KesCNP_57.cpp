@@ -22,17 +22,17 @@ std::string canonical(std::string_view number, KesDialRulesItem* rules) {
     if (n == 7) {
         // No check that the installation has an area code: an empty one gives "+57 () ...".
         std::string own = rules->getAreaCode();
-        return plantext::canonicalNumber("57", own, number);
+        return canonicalNumber("57", own, number);
     }
     if (n < 10 || number[0] != '0')
         return std::string();
     // After the national prefix: "3" and the mobile prefix, or a one-digit carrier and the area
     // code (ten characters), or a three-digit carrier code and the area code (longer numbers).
     if (number[1] == '3')
-        return plantext::canonicalNumber("57", number.substr(2, 3), number.substr(5));
+        return canonicalNumber("57", number.substr(2, 3), number.substr(5));
     if (n == 10)
-        return plantext::canonicalNumber("57", number.substr(2, 1), number.substr(3));
-    return plantext::canonicalNumber("57", number.substr(4, 1), number.substr(5));
+        return canonicalNumber("57", number.substr(2, 1), number.substr(3));
+    return canonicalNumber("57", number.substr(4, 1), number.substr(5));
 }
 
 } // namespace
@@ -48,10 +48,8 @@ KesCNP_57::~KesCNP_57() {
 }
 
 std::string KesCNP_57::dlr_Country_MakeCanonicalNumber(std::string number, KesDialRulesItem* rules) {
-    if (rules == nullptr)
+    if (!plantext::entered(number, rules, logger))
         return number;
-    if (Logger::m_Traces)
-        logger->debug(plantext::entryTrace(number, rules));
     std::string result = canonical(number, rules);
     // The trace names Argentina although this is the Colombian plan; the text is kept as it stands.
     if (Logger::m_Traces)

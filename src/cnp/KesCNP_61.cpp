@@ -15,7 +15,8 @@ std::string KesCNP_61::AREA_CODES_DEFAULT_FILE =
 
 namespace {
 
-const KesAreaCodePlan::PlanFile PLAN_FILE = {"tz310cnp_61.properties", "tz310cnp_61_default.properties",
+const KesAreaCodePlan::PlanFile PLAN_FILE = {"tz310cnp_61.properties",
+                                             "tz310cnp_61_default.properties",
                                              "No specific configuration file for Australia",
                                              "No specific dialing rules configuration file",
                                              "KesCNP_61",
@@ -44,10 +45,8 @@ KesCNP_61::KesCNP_61() : KesAreaCodePlan(PLAN_FILE, logger) {}
 KesCNP_61::~KesCNP_61() = default;
 
 std::string KesCNP_61::dlr_Country_MakeCanonicalNumber(std::string number, KesDialRulesItem* rules) {
-    if (rules == nullptr)
+    if (!plantext::entered(number, rules, logger))
         return number;
-    if (Logger::m_Traces)
-        logger->debug(plantext::entryTrace(number, rules));
     std::string result;
     std::string_view digits = number;
     if (digits.size() == NATIONAL_LENGTH && digits[0] == '0') {

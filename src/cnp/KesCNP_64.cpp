@@ -5,13 +5,10 @@
 #include "numbering/Logger.h"
 
 #include <algorithm>
-#include <cctype>
 #include <string_view>
 #include <typeinfo>
 
 namespace numbering {
-
-using plantext::beginsWith;
 
 Logger* KesCNP_64::logger = Logger::getLogger(typeid(KesCNP_64).name());
 
@@ -60,11 +57,6 @@ bool isGeographicAreaCode(std::string_view area) {
     return area.size() == 1 && std::string_view("34679").find(area[0]) != std::string_view::npos;
 }
 
-bool allDigits(std::string_view number) {
-    return std::all_of(number.begin(), number.end(),
-                       [](char c) { return std::isdigit(static_cast<unsigned char>(c)); });
-}
-
 // A local number is completed only with a one-digit geographic area code of the installation
 // (written with or without its national prefix); local numbers never begin with 0 or 1.
 std::string localCanonical(std::string_view number, KesDialRulesItem* rules) {
@@ -76,7 +68,7 @@ std::string localCanonical(std::string_view number, KesDialRulesItem* rules) {
         area.remove_prefix(1);
     if (!isGeographicAreaCode(area))
         return std::string();
-    return plantext::canonicalNumber("64", area, number);
+    return canonicalNumber("64", area, number);
 }
 
 // The canonical form of a national or local number, or "" when no range holds it.
@@ -84,12 +76,11 @@ std::string canonical(std::string_view number, KesDialRulesItem* rules) {
     if (number.size() == LOCAL_LENGTH)
         return localCanonical(number, rules);
     for (const Range& range : RANGES) {
-        if (!beginsWith(number, range.leading))
+        if (!startsWith(number, range.leading))
             continue;
         if (number.size() < range.shortest || number.size() > range.longest)
             return std::string();
-        return plantext::canonicalNumber("64", number.substr(1, range.codeLength),
-                                         number.substr(1 + range.codeLength));
+        return canonicalNumber("64", number.substr(1, range.codeLength), number.substr(1 + range.codeLength));
     }
     return std::string();
 }
@@ -104,10 +95,8 @@ KesCNP_64::KesCNP_64() {
 KesCNP_64::~KesCNP_64() = default;
 
 std::string KesCNP_64::dlr_Country_MakeCanonicalNumber(std::string number, KesDialRulesItem* rules) {
-    if (rules == nullptr)
+    if (!plantext::entered(number, rules, logger))
         return number;
-    if (Logger::m_Traces)
-        logger->debug(plantext::entryTrace(number, rules));
     // Service codes and anything else that is not plain digits are not numbers of the plan.
     if (number.empty() || !allDigits(number))
         return number;
@@ -116,7 +105,7 @@ std::string KesCNP_64::dlr_Country_MakeCanonicalNumber(std::string number, KesDi
     if (result.empty()) {
         // The number as dialled on an outside line: the same shapes behind the outside-line prefix.
         std::string ext = rules->getExtPrefix();
-        if (!ext.empty() && beginsWith(number, ext)) {
+        if (!ext.empty() && startsWith(number, ext)) {
             result = canonical(std::string_view(number).substr(ext.size()), rules);
             if (!result.empty() && Logger::m_Traces)
                 logger->debug("Number with external prefix detected : '" + number + "'");

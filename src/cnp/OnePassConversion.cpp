@@ -25,10 +25,8 @@ bool localRuleApplies(KesAreaCodePlan::LocalRule rule, char first) {
 
 std::string KesAreaCodePlan::convertInOnePass(const OnePassRules& plan, const std::string& number,
                                               KesDialRulesItem* rules, Logger* planLogger) {
-    if (rules == nullptr)
+    if (!plantext::entered(number, rules, planLogger))
         return number;
-    if (Logger::m_Traces)
-        planLogger->debug(plantext::entryTrace(number, rules));
     if (number.empty() || number.size() < plan.minimumLength)
         return number;
     std::string result;

@@ -1,29 +1,18 @@
 #ifndef NUMBERING_CNP_PLANTEXT_H
 #define NUMBERING_CNP_PLANTEXT_H
 
-// Text helpers shared by the country plans. They work on views so that a conversion allocates only
-// its result.
+// The traces the country plans write; their text tests and the canonical-number builder are the
+// shared ones of common/NumberText.h.
 
+#include "common/NumberText.h"
 #include "numbering/KesDialRulesItem.h"
+#include "numbering/Logger.h"
 
 #include <string>
 #include <string_view>
 
 namespace numbering {
 namespace plantext {
-
-inline bool beginsWith(std::string_view text, std::string_view prefix) {
-    return text.size() >= prefix.size() && text.compare(0, prefix.size(), prefix) == 0;
-}
-
-/// "+" countryNumber " (" area ") " subscriber, built in one allocation.
-inline std::string canonicalNumber(std::string_view countryNumber, std::string_view area,
-                                   std::string_view subscriber) {
-    std::string result;
-    result.reserve(countryNumber.size() + area.size() + subscriber.size() + 5);
-    result.append("+").append(countryNumber).append(" (").append(area).append(") ").append(subscriber);
-    return result;
-}
 
 /// operation + "('" + number + "', '" + rules + "')": the opening trace of a plan's operations.
 /// Build it only when tracing is on.
@@ -34,6 +23,16 @@ inline std::string callTrace(const char* operation, const std::string& number, K
 /// The text every plan traces on entry: "dlr_Country_MakeCanonicalNumber('<number>', '<rules>')".
 inline std::string entryTrace(const std::string& number, KesDialRulesItem* rules) {
     return callTrace("dlr_Country_MakeCanonicalNumber", number, rules);
+}
+
+/// A plan's way in: without dialing rules the number comes back unchanged (false); otherwise the
+/// entry is traced.
+inline bool entered(const std::string& number, KesDialRulesItem* rules, Logger* planLogger) {
+    if (rules == nullptr)
+        return false;
+    if (Logger::m_Traces)
+        planLogger->debug(entryTrace(number, rules));
+    return true;
 }
 
 } // namespace plantext

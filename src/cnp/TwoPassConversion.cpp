@@ -44,10 +44,8 @@ bool KesAreaCodePlan::placeNational(const TwoPassRules& plan, std::string_view w
 
 std::string KesAreaCodePlan::convertInTwoPasses(const TwoPassRules& plan, const std::string& number,
                                                 KesDialRulesItem* rules, Logger* planLogger) {
-    if (rules == nullptr)
+    if (!plantext::entered(number, rules, planLogger))
         return number;
-    if (Logger::m_Traces)
-        planLogger->debug(plantext::entryTrace(number, rules));
     if (number.size() < SHORTEST)
         return number;
     std::string result;
@@ -59,7 +57,7 @@ std::string KesAreaCodePlan::convertInTwoPasses(const TwoPassRules& plan, const 
     // Pass 2: behind the outside-line prefix, when what follows it is long enough to be a number.
     std::string prefix = rules->getExtPrefix();
     std::string_view current = number;
-    if (number.size() > prefix.size() + 2 && number.compare(0, prefix.size(), prefix) == 0 &&
+    if (number.size() > prefix.size() + 2 && startsWith(number, prefix) &&
         number.size() - prefix.size() <= LONGEST_BEHIND_PREFIX) {
         current.remove_prefix(prefix.size());
         if (current[0] == '0')

@@ -1,6 +1,7 @@
 #include "numbering/KesDialRulesItem.h"
 
 #include "Configuration.h"
+#include "common/NumberText.h"
 #include "numbering/KesNumberingConfig.h"
 #include "numbering/KesUnsupportedCountryException.h"
 #include "numbering/Logger.h"
@@ -16,13 +17,12 @@ namespace numbering {
 
 Logger* KesDialRulesItem::logger = Logger::getLogger(typeid(KesDialRulesItem).name());
 
-KesDialRulesItem::KesDialRulesItem()
-    : countryId("FR"), localNbLength(0), exceptNbLength(0) {
+KesDialRulesItem::KesDialRulesItem() : countryId("FR"), localNbLength(0), exceptNbLength(0) {
     setAreaCode("");
 }
 
-KesDialRulesItem::KesDialRulesItem(std::string country, std::string prefix, int localLength, std::string codes,
-                                   int exceptLength, std::string exceptBegin) {
+KesDialRulesItem::KesDialRulesItem(std::string country, std::string prefix, int localLength,
+                                   std::string codes, int exceptLength, std::string exceptBegin) {
     checkCountry(country);
     countryId = std::move(country);
     extPrefix = std::move(prefix);
@@ -56,7 +56,8 @@ void KesDialRulesItem::setAreaCode(std::string codes) {
     if (codes.empty())
         return;
     m_areaCodesList.clear();
-    Poco::StringTokenizer tokens(codes, ",", Poco::StringTokenizer::TOK_TRIM | Poco::StringTokenizer::TOK_IGNORE_EMPTY);
+    Poco::StringTokenizer tokens(codes, ",",
+                                 Poco::StringTokenizer::TOK_TRIM | Poco::StringTokenizer::TOK_IGNORE_EMPTY);
     for (const std::string& code : tokens)
         m_areaCodesList.push_back(code);
     if (!m_areaCodesList.empty())
@@ -77,8 +78,7 @@ bool KesDialRulesItem::isLocalNumber(std::string number) {
 
 bool KesDialRulesItem::isExceptionNumber(std::string number) {
     // The exception length never changes the answer: only the leading digits count.
-    bool exception =
-        !number.empty() && !exceptNbBegin.empty() && number.compare(0, exceptNbBegin.size(), exceptNbBegin) == 0;
+    bool exception = !number.empty() && !exceptNbBegin.empty() && startsWith(number, exceptNbBegin);
     if (Logger::m_Traces)
         logger->debug("isExceptionNumber('" + number + "')=" + (exception ? "true" : "false"));
     return exception;
@@ -90,7 +90,8 @@ std::string KesDialRulesItem::ToString() {
          << "', Local length : " << localNbLength << ", AreaCode : '" << areaCode << "', m_areaCodesList : ";
     for (const std::string& code : m_areaCodesList)
         text << " '" << code << "'";
-    text << ", Except length : " << exceptNbLength << ", Except begin : '" << exceptNbBegin << "'" << std::ends;
+    text << ", Except length : " << exceptNbLength << ", Except begin : '" << exceptNbBegin << "'"
+         << std::ends;
     return text.str();
 }
 

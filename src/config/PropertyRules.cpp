@@ -1,5 +1,6 @@
 #include "PropertyRules.h"
 
+#include "common/NumberText.h"
 #include "numbering/KesNumberingConfig.h"
 
 #include <Poco/String.h>
@@ -38,7 +39,7 @@ MaskKey readMaskKey(const std::string& key) {
 }
 
 std::optional<std::string> readActivationKey(const std::string& key) {
-    if (key.compare(0, 4, "cnp_") != 0 || key.size() < 5 || key.size() > 7)
+    if (!startsWith(key, "cnp_") || key.size() < 5 || key.size() > 7)
         return std::nullopt;
     return key.substr(4);
 }

@@ -8,6 +8,8 @@
 // atomically, and a table outgrown by an insertion stays alive (for readers still in it) until the
 // map goes.
 
+#include <Poco/AutoPtr.h>
+
 #include <atomic>
 #include <cstddef>
 #include <cstdint>
@@ -125,6 +127,18 @@ private:
     std::vector<std::unique_ptr<Table>> tables; // the last is in use, the others kept for readers
     std::atomic<const Table*> table{nullptr};
 };
+
+/// The object cached under `key` in `cache`, else what `load` builds and caches under `mutex`: the
+/// plan and strategy caches look up without a lock once an object is cached, and build each one once.
+template <class Object, class Mutex, class Load>
+Object* findOrLoad(TextKeyMap<Poco::AutoPtr<Object>>& cache, Mutex& mutex, std::string_view key, Load load) {
+    if (Poco::AutoPtr<Object>* cached = cache.find(key))
+        return cached->get();
+    typename Mutex::ScopedLock lock(mutex);
+    if (Poco::AutoPtr<Object>* cached = cache.find(key))
+        return cached->get();
+    return load();
+}
 
 } // namespace numbering
 

@@ -31,12 +31,6 @@ std::string KesDialable::extractOperatorPrefix(std::string) {
     return std::string();
 }
 
-std::string KesDialable::reservedResult() {
-    // No capacity is reserved: dialable numbers of up to 15 digits live in the string itself, and
-    // a reservation would be a heap allocation on every call.
-    return std::string();
-}
-
 void KesDialable::dropDestinationNationalPrefix(const std::string& country, std::string& areaNatPfx) {
     // Only an exact match counts: an area code that merely begins with the prefix stays.
     KesCountryRuleItem* destination = KesNumberingConfig::getInstance()->findCountryRuleOfNumber(country);

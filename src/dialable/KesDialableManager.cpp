@@ -37,12 +37,7 @@ KesDialableManager::~KesDialableManager() {
 KesDialable* KesDialableManager::getDialable(std::string countryNumber) {
     if (Logger::m_Traces)
         logger->debug("getDialable('" + countryNumber + "')");
-    if (Poco::AutoPtr<KesDialable>* cached = strategies->find(countryNumber))
-        return cached->get();
-    Poco::FastMutex::ScopedLock lock(mutex);
-    if (Poco::AutoPtr<KesDialable>* cached = strategies->find(countryNumber))
-        return cached->get();
-    return loadDialableClass(countryNumber);
+    return findOrLoad(*strategies, mutex, countryNumber, [&] { return loadDialableClass(countryNumber); });
 }
 
 KesDialable* KesDialableManager::loadDialableClass(std::string countryNumber) {

@@ -1,5 +1,6 @@
 #include "numbering/KesDialable_52.h"
 
+#include "common/NumberText.h"
 #include "numbering/KesCountryRuleItem.h"
 #include "numbering/KesDialRulesItem.h"
 #include "numbering/Logger.h"
@@ -18,8 +19,8 @@ KesDialable_52::KesDialable_52() = default;
 std::string KesDialable_52::makeLongDistDialableNumber(std::string& areaNatPfx, std::string& number,
                                                        KesCountryRuleItem* countryRule,
                                                        KesDialRulesItem* dialRules) {
-    std::string result = reservedResult();
-    if (areaNatPfx.compare(0, PREFIX_MOBILE.size(), PREFIX_MOBILE) == 0) {
+    std::string result;
+    if (startsWith(areaNatPfx, PREFIX_MOBILE)) {
         // The area code behind the mobile marker decides between the local and the distant form.
         std::string::size_type areaStart = PREFIX_MOBILE.size();
         bool ownArea = dialRules != nullptr &&

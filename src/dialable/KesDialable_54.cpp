@@ -30,7 +30,7 @@ std::string KesDialable_54::makeLocalDialableNumber(std::string& areaNatPfx, std
 std::string KesDialable_54::MakeLocalOrLongDistDialableNumber(std::string& areaNatPfx, std::string& number,
                                                               KesCountryRuleItem* countryRule,
                                                               KesDialRulesItem* dialRules) {
-    std::string full = reservedResult();
+    std::string full;
     full += areaNatPfx;
     full += number;
     // Without the Argentine plan (or an installation to compare with) there is nothing to split by.
@@ -42,7 +42,7 @@ std::string KesDialable_54::MakeLocalOrLongDistDialableNumber(std::string& areaN
             logger->debug("makeLocalOrLongDistDialableNumber(Argentina): not possible to strip the number");
         return full;
     }
-    std::string result = reservedResult();
+    std::string result;
     // An empty area is never the installation's own.
     if (stripped->area.empty() || stripped->area != dialRules->getAreaCode()) {
         result += countryRule->getLongDistPrefix();

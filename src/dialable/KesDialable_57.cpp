@@ -53,7 +53,7 @@ std::string KesDialable_57::extractOperatorPrefix(std::string number) {
 std::string KesDialable_57::makeInternationalDialableNumber(std::string& country, std::string& areaNatPfx,
                                                             std::string& number,
                                                             KesCountryRuleItem* countryRule) {
-    std::string result = reservedResult();
+    std::string result;
     result += countryRule->getInternatPfx();
     result += operatorPrefix;
     std::string rule = countryRule->getInternatRule();
@@ -72,7 +72,7 @@ std::string KesDialable_57::makeLongDistDialableNumber(std::string& areaNatPfx, 
     // Mobile numbers begin with "3" and are reached through the mobile prefix, every other
     // national number through the operator.
     char first = areaNatPfx.empty() ? number.at(0) : areaNatPfx[0];
-    std::string result = reservedResult();
+    std::string result;
     result += countryRule->getLongDistPrefix();
     result += first == MOBILE_OP_START_WITH ? MOBILE_PREFIX : operatorPrefix;
     result += areaNatPfx;

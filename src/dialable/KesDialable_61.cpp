@@ -12,7 +12,7 @@ KesDialable_61::KesDialable_61() = default;
 
 std::string KesDialable_61::makeLongDistDialableNumber(std::string& areaNatPfx, std::string& number,
                                                        KesCountryRuleItem*, KesDialRulesItem*) {
-    std::string result = reservedResult();
+    std::string result;
     result += areaNatPfx;
     result += number;
     // The trunk prefix is always "0" here, whatever the country rule says.

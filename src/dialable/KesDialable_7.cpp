@@ -14,7 +14,7 @@ KesDialable_7::KesDialable_7() = default;
 
 std::string KesDialable_7::makeLongDistDialableNumber(std::string& areaNatPfx, std::string& number,
                                                       KesCountryRuleItem*, KesDialRulesItem*) {
-    std::string result = reservedResult();
+    std::string result;
     result += areaNatPfx;
     result += number;
     // Without an "RU" row there is no prefix to add rather than a record to dereference.

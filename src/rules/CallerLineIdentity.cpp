@@ -2,12 +2,12 @@
 
 #include "CanonicalParts.h"
 #include "ConversionGuard.h"
-#include "NumberText.h"
+#include "common/NumberText.h"
+#include "config/Configuration.h"
 #include "numbering/KesClid.h"
 #include "numbering/KesCountryRuleItem.h"
 #include "numbering/KesDialRulesItem.h"
 #include "numbering/KesEnumOrigin.h"
-#include "config/Configuration.h"
 #include "numbering/KesNumberingConfig.h"
 #include "numbering/Logger.h"
 

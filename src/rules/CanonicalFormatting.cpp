@@ -1,8 +1,9 @@
 #include "numbering/KesNumberingRules.h"
 
+#include "CanonicalParts.h"
 #include "ConversionGuard.h"
 #include "FacadeInternals.h"
-#include "NumberText.h"
+#include "common/NumberText.h"
 #include "config/Configuration.h"
 #include "numbering/KesCountryRuleItem.h"
 #include "numbering/KesNumberingConfig.h"
@@ -47,17 +48,13 @@ std::string defaultCanonicalNumber(std::string strPhoneNumber, const std::string
             strAreaCode = ldp;
         }
         const std::string& countryNumber = rule->countryNumberText();
-        result.reserve(countryNumber.size() + strAreaCode.size() + work.size() + 5);
-        result += '+';
-        result += countryNumber;
         if (!strAreaCode.empty()) {
-            result += " (";
-            result += strAreaCode;
-            result += ") ";
+            result = canonicalNumber(countryNumber, strAreaCode, work);
         } else {
-            result += ' ';
+            // Neither an area code nor a national prefix: "+47 12345678".
+            result.reserve(countryNumber.size() + work.size() + 2);
+            result.append("+").append(countryNumber).append(" ").append(work);
         }
-        result += work;
     }
     if (Logger::m_Traces)
         logger->debug("generateDefaultCanonicalNumber result : '" + result + "'");
@@ -65,22 +62,6 @@ std::string defaultCanonicalNumber(std::string strPhoneNumber, const std::string
 }
 
 namespace {
-
-/// The three parts of a canonical number that a mask places.
-struct CanonicalParts {
-    std::string_view countryNumber;    // from the second character up to the first blank
-    std::string_view area;             // between the first "(" and the next ")"
-    std::string::size_type subscriber; // just past the blank behind that ")"
-};
-
-CanonicalParts splitCanonical(std::string_view number, std::string::size_type open) {
-    CanonicalParts parts;
-    parts.countryNumber = between(number, 1, indexOf(number, ' '));
-    const std::string::size_type close = indexOf(number, ')', open);
-    parts.area = between(number, open + 1, close);
-    parts.subscriber = close == std::string::npos ? number.size() : close + 2;
-    return parts;
-}
 
 /// Whether `area` is the national prefix of the country with calling code `countryNumber`, which a
 /// mask's "a" leaves out. An unknown country has none.
@@ -118,27 +99,27 @@ std::string formatCanonical(const std::string& strCanPhoneNumber, const std::str
                     trimmed(between(strCanPhoneNumber, 1, open)));
                 pattern = mask == nullptr ? &noMask : mask;
             }
-            const CanonicalParts parts = splitCanonical(strCanPhoneNumber, open);
-            std::string::size_type pos = parts.subscriber;
+            const CanonicalParts parts = readCanonical(strCanPhoneNumber, CanonicalReading::AtSeparators);
+            std::string_view::size_type placed = 0; // characters of the subscriber part passed
             TextCollector result;
             for (char c : *pattern) {
                 switch (c) {
                 case 'C':
-                    result.append(parts.countryNumber);
+                    result.append(parts.country);
                     break;
                 case 'A':
                     result.append(parts.area);
                     break;
                 case 'a':
-                    if (!parts.area.empty() && !isNationalPrefix(parts.area, parts.countryNumber))
+                    if (!parts.area.empty() && !isNationalPrefix(parts.area, parts.country))
                         result.append(parts.area);
                     break;
                 case 'x':
                     // A blank of the number is passed over without placing anything.
-                    if (pos < strCanPhoneNumber.size()) {
-                        if (strCanPhoneNumber[pos] != ' ')
-                            result.push(strCanPhoneNumber[pos]);
-                        ++pos;
+                    if (placed < parts.subscriber.size()) {
+                        if (parts.subscriber[placed] != ' ')
+                            result.push(parts.subscriber[placed]);
+                        ++placed;
                     }
                     break;
                 default:
@@ -146,8 +127,7 @@ std::string formatCanonical(const std::string& strCanPhoneNumber, const std::str
                 }
             }
             // Digits the mask did not place are never lost.
-            if (pos < strCanPhoneNumber.size())
-                result.append(std::string_view(strCanPhoneNumber).substr(pos));
+            result.append(parts.subscriber.substr(placed));
             return result.str();
         },
         [&](const char* what) {

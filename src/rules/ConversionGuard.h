@@ -49,8 +49,6 @@ inline KesDialable* requireDialable(const std::string& countryNumber) {
 template <class Body, class OnFailure> std::string guardConversion(Body body, OnFailure onFailure) {
     try {
         return body();
-    } catch (const std::out_of_range& e) {
-        return onFailure(e.what());
     } catch (const std::exception& e) {
         return onFailure(e.what());
     } catch (...) {

@@ -4,10 +4,33 @@
 // The facade's formatting steps as its conversions call them: on references and views, so that a
 // conversion copies no number only to hand it on. The public operations of the same names wrap them.
 
+#include "common/NumberText.h"
+#include "numbering/KesDialRulesItem.h"
+#include "numbering/KesNumberingRules.h"
+
 #include <string>
 #include <string_view>
 
 namespace numbering {
+
+/// A presentation character (" ()-."), dropped by every conversion.
+inline bool isFormatCharacter(char c) {
+    return isOneOf(c, KesNumberingRules::TELEPHONENUMBER_FORMAT_CHARACTER);
+}
+
+/// A service character ("*#ABCD"): kept, and the number is a service code.
+inline bool isServiceCharacter(char c) {
+    return isOneOf(c, KesNumberingRules::TELEPHONENUMBER_SPECIAL_CHARACTER);
+}
+
+/// Whether the outside-line prefix goes in front of `number` under the installation's `rules`:
+/// internal extensions (shorter than the local number length) never take it, nor do the
+/// installation's exception numbers. A number exactly as long as a local number does.
+inline bool outsideLinePrefixNeeded(KesDialRulesItem& rules, const std::string& number) {
+    if (static_cast<long>(number.size()) < rules.getLocalNbLength())
+        return false;
+    return !rules.isExceptionNumber(number);
+}
 
 /// generateDefaultCanonicalNumber.
 std::string defaultCanonicalNumber(std::string strPhoneNumber, const std::string& strCountryCode,

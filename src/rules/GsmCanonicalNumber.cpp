@@ -1,8 +1,9 @@
 #include "numbering/KesNumberingRules.h"
 
+#include "CanonicalParts.h"
 #include "ConversionGuard.h"
 #include "FacadeInternals.h"
-#include "NumberText.h"
+#include "common/NumberText.h"
 #include "config/Configuration.h"
 #include "numbering/KesCountryRuleItem.h"
 #include "numbering/KesNumberingConfig.h"
@@ -41,27 +42,23 @@ std::string formatToGsm(const std::string& strCanPhoneNumber) {
         return strCanPhoneNumber;
     return guardConversion(
         [&]() -> std::string {
-            const std::string_view countryNumber =
-                between(strCanPhoneNumber, 1, indexOf(strCanPhoneNumber, ' '));
-            const std::string::size_type close = indexOf(strCanPhoneNumber, ')', open);
-            std::string_view area = between(strCanPhoneNumber, open + 1, close);
+            const CanonicalParts parts = readCanonical(strCanPhoneNumber, CanonicalReading::AtSeparators);
+            std::string_view area = parts.area;
             KesCountryRuleItem* rule =
-                KesNumberingConfig::getInstance()->findCountryRuleOfNumber(countryNumber);
+                KesNumberingConfig::getInstance()->findCountryRuleOfNumber(parts.country);
             // A national prefix in the parentheses is dropped, a real area code is kept.
             if (rule != nullptr && rule->longDistPrefixText() == area)
                 area = std::string_view();
             TextCollector result;
             result.push('+');
-            result.append(countryNumber);
+            result.append(parts.country);
             result.append(area);
-            // The blank behind ")" is skipped, and so are the blanks and separators a display mask
-            // put into the subscriber part: the GSM form is "+" and digits only.
-            if (close != std::string::npos) {
-                const CharacterSet format(KesNumberingRules::TELEPHONENUMBER_FORMAT_CHARACTER);
-                for (std::string::size_type i = close + 2; i < strCanPhoneNumber.size(); ++i)
-                    if (!format.contains(strCanPhoneNumber[i]))
-                        result.push(strCanPhoneNumber[i]);
-            }
+            // The blanks and separators a display mask put into the subscriber part are skipped:
+            // the GSM form is "+" and digits only.
+            const CharacterSet format(KesNumberingRules::TELEPHONENUMBER_FORMAT_CHARACTER);
+            for (char c : parts.subscriber)
+                if (!format.contains(c))
+                    result.push(c);
             return result.str();
         },
         [&](const char* what) {

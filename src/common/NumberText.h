@@ -1,10 +1,9 @@
-#ifndef NUMBERING_SRC_RULES_NUMBERTEXT_H
-#define NUMBERING_SRC_RULES_NUMBERTEXT_H
+#ifndef NUMBERING_SRC_COMMON_NUMBERTEXT_H
+#define NUMBERING_SRC_COMMON_NUMBERTEXT_H
 
-// Small text tests and edits on number strings, shared by the facade's conversions. They work in
-// place or on references so that the conversions build no strings they do not return.
-
-#include "numbering/KesNumberingRules.h"
+// Small text tests and edits on number strings, shared by every subsystem: the country plans, the
+// dialing strategies and the facade's conversions. They work in place or on views so that a
+// conversion builds no strings it does not return.
 
 #include <Poco/Ascii.h>
 #include <Poco/String.h>
@@ -19,6 +18,14 @@ inline bool isDigit(char c) {
     return c >= '0' && c <= '9';
 }
 
+/// Whether every character of `text` is a digit; an empty text is.
+inline bool allDigits(std::string_view text) {
+    for (char c : text)
+        if (!isDigit(c))
+            return false;
+    return true;
+}
+
 /// Whether `c` is one of the characters of `set`: a plain loop over a set of a few characters, run
 /// for every character of a number, costs less than a call of std::string::find.
 inline bool isOneOf(char c, const std::string& set) {
@@ -26,16 +33,6 @@ inline bool isOneOf(char c, const std::string& set) {
         if (member == c)
             return true;
     return false;
-}
-
-/// A presentation character (" ()-."), dropped by every conversion.
-inline bool isFormatCharacter(char c) {
-    return isOneOf(c, KesNumberingRules::TELEPHONENUMBER_FORMAT_CHARACTER);
-}
-
-/// A service character ("*#ABCD"): kept, and the number is a service code.
-inline bool isServiceCharacter(char c) {
-    return isOneOf(c, KesNumberingRules::TELEPHONENUMBER_SPECIAL_CHARACTER);
 }
 
 /// True when `text` begins with `prefix`; every text begins with an empty prefix.
@@ -141,6 +138,16 @@ inline std::string_view between(std::string_view text, std::string_view::size_ty
     if (begin >= text.size() || end <= begin)
         return std::string_view();
     return text.substr(begin, end - begin);
+}
+
+/// "+" countryNumber " (" area ") " subscriber, built in one allocation. An empty area still has
+/// its parentheses.
+inline std::string canonicalNumber(std::string_view countryNumber, std::string_view area,
+                                   std::string_view subscriber) {
+    std::string result;
+    result.reserve(countryNumber.size() + area.size() + subscriber.size() + 5);
+    result.append("+").append(countryNumber).append(" (").append(area).append(") ").append(subscriber);
+    return result;
 }
 
 } // namespace numbering

@@ -1,10 +1,11 @@
 #include "numbering/KesNumberingRules.h"
 
+#include "ConversionGuard.h"
+#include "FacadeInternals.h"
+#include "common/NumberText.h"
 #include "config/Configuration.h"
 #include "numbering/KesDialRulesItem.h"
 #include "numbering/Logger.h"
-#include "rules/ConversionGuard.h"
-#include "rules/NumberText.h"
 
 #include <algorithm>
 
@@ -23,6 +24,8 @@ bool hadExternalPrefix(const std::string& number, const std::string& ext) {
 /// the prefix keeps it even where the rules would not add it (a short number, an exception).
 std::string withExternalPrefix(KesNumberingRules& facade, KesDialRulesItem* rules, const std::string& ext,
                                bool hadPrefix, std::string dial) {
+    if (dial.empty())
+        return dial;
     if (facade.isPrefixNeeded(rules, dial))
         return ext + dial;
     if (!hadPrefix || startsWith(dial, ext))
@@ -34,17 +37,30 @@ bool containsServiceCharacter(const std::string& number) {
     return std::any_of(number.begin(), number.end(), isServiceCharacter);
 }
 
+/// What makePhoneNumber and addExternalPrefix do around their conversion: the argument checks, a
+/// number holding "***" passed through, one configuration for the canonical and the dialled forms,
+/// the trace on entry, and any failure logged and answered with "".
+template <class Convert>
+std::string dialledConversion(const char* operation, KesDialRulesItem* rules, std::string& number,
+                              Convert convert) {
+    requireArguments(rules, number);
+    if (contains(number, "***"))
+        return std::move(number);
+    PinnedConfiguration pin;
+    Logger* logger = KesNumberingRules::logger;
+    if (Logger::m_Traces)
+        logger->debug(std::string(operation) + " with : " + number);
+    return guardConversion(convert, [&](const char* what) {
+        logConversionFailure(logger, operation, what, number, "", rules);
+        return std::string();
+    });
+}
+
 } // namespace
 
 std::string KesNumberingRules::makePhoneNumber(KesDialRulesItem* myKesDialRulesItem,
                                                std::string strPhoneNumber) {
-    requireArguments(myKesDialRulesItem, strPhoneNumber);
-    if (contains(strPhoneNumber, "***"))
-        return strPhoneNumber;
-    PinnedConfiguration pin; // the canonical and the dialled forms from one configuration
-    if (Logger::m_Traces)
-        logger->debug("makePhoneNumber with : " + strPhoneNumber);
-    auto convert = [&]() -> std::string {
+    return dialledConversion("makePhoneNumber", myKesDialRulesItem, strPhoneNumber, [&]() -> std::string {
         trimTypedNumber(strPhoneNumber);
         const bool canonical = strPhoneNumber.at(0) == '+'; // only white space: std::out_of_range
         const std::string ext = myKesDialRulesItem->getExtPrefix();
@@ -62,26 +78,14 @@ std::string KesNumberingRules::makePhoneNumber(KesDialRulesItem* myKesDialRulesI
             makeCanonicalNumber(myKesDialRulesItem, strPhoneNumber, "", false);
         if (canonicalNumber.empty())
             return std::string();
-        std::string dial = makeDialableNumber(myKesDialRulesItem, canonicalNumber);
-        if (dial.empty())
-            return dial;
-        return withExternalPrefix(*this, myKesDialRulesItem, ext, hadPrefix, std::move(dial));
-    };
-    return guardConversion(convert, [&](const char* what) {
-        logConversionFailure(logger, "makePhoneNumber", what, strPhoneNumber, "", myKesDialRulesItem);
-        return std::string();
+        return withExternalPrefix(*this, myKesDialRulesItem, ext, hadPrefix,
+                                  makeDialableNumber(myKesDialRulesItem, canonicalNumber));
     });
 }
 
 std::string KesNumberingRules::addExternalPrefix(KesDialRulesItem* myKesDialRulesItem,
                                                  std::string strPhoneNumber) {
-    requireArguments(myKesDialRulesItem, strPhoneNumber);
-    if (contains(strPhoneNumber, "***"))
-        return strPhoneNumber;
-    PinnedConfiguration pin; // the canonical and the dialled forms from one configuration
-    if (Logger::m_Traces)
-        logger->debug("addExternalPrefix with : " + strPhoneNumber);
-    auto convert = [&]() -> std::string {
+    return dialledConversion("addExternalPrefix", myKesDialRulesItem, strPhoneNumber, [&]() -> std::string {
         const std::string ext = myKesDialRulesItem->getExtPrefix();
         // Read on the number as given: this operation trims only without an outside-line prefix.
         const bool hadPrefix = hadExternalPrefix(strPhoneNumber, ext);
@@ -100,13 +104,7 @@ std::string KesNumberingRules::addExternalPrefix(KesDialRulesItem* myKesDialRule
             // Not canonical: only checked, never converted.
             dial = checkPhoneNumber(strPhoneNumber);
         }
-        if (dial.empty())
-            return dial;
         return withExternalPrefix(*this, myKesDialRulesItem, ext, hadPrefix, std::move(dial));
-    };
-    return guardConversion(convert, [&](const char* what) {
-        logConversionFailure(logger, "addExternalPrefix", what, strPhoneNumber, "", myKesDialRulesItem);
-        return std::string();
     });
 }
 

@@ -1,0 +1,361 @@
+#include "numbering/KesNumberingRules.h"
+
+#include "CanonicalParts.h"
+#include "ConversionGuard.h"
+#include "FacadeInternals.h"
+#include "common/NumberText.h"
+#include "config/Configuration.h"
+#include "numbering/KesCNP.h"
+#include "numbering/KesCNPManager.h"
+#include "numbering/KesCountryRuleItem.h"
+#include "numbering/KesDialRulesItem.h"
+#include "numbering/KesDialable.h"
+#include "numbering/KesNumberingConfig.h"
+#include "numbering/Logger.h"
+
+#include <algorithm>
+#include <optional>
+#include <stdexcept>
+
+// makeCanonicalNumber in three steps: tell what kind of number was typed (international, national
+// or possibly local, or a service code), write it in canonical form by the country's plan or by the
+// generic rules, and lay it out with the mask.
+
+namespace numbering {
+
+namespace {
+
+/// What kind of number a conversion holds, and the number as the country that reads it dials it.
+struct NumberKind {
+    std::string number;      // the number to put in canonical form
+    std::string countryCode; // the country it belongs to, "" when unknown
+    bool known = false;      // recognised as international or national
+    KesDialRulesItem* installation;
+    /// The rules of another country's national number: KesDialRulesItem(countryCode, "", 0, "", 0,
+    /// ""), no outside-line prefix and no area code. A code the store gave is valid, as the
+    /// constructor requires. Made for every such number: keeping the last ones per thread saved
+    /// less than half a percent of a conversion's instructions.
+    std::optional<KesDialRulesItem> destination;
+
+    explicit NumberKind(KesDialRulesItem* rules) : installation(rules) {}
+
+    /// The rules that read the number: the installation's, or the destination country's.
+    KesDialRulesItem* rules() { return destination ? &*destination : installation; }
+
+    /// From here on the number is a national number of `code`, read with that country's rules.
+    void takeDestination(const std::string& code) {
+        destination.emplace(code, "", 0, "", 0, "");
+        countryCode = code;
+        known = true;
+    }
+};
+
+/// The digits and service characters of a number not in international form; the scan ends at a
+/// "|". Sets `serviceCode` when a service character is met; any character that is neither a digit
+/// nor a presentation character rejects the number.
+std::string cleanNationalNumber(std::string_view strValid, bool& serviceCode) {
+    TextCollector digits;
+    const std::string_view::size_type end = indexOf(strValid, '|');
+    const std::string_view::size_type length = end == std::string_view::npos ? strValid.size() : end;
+    for (std::string_view::size_type i = 0; i < length; ++i) {
+        const char c = strValid[i];
+        if (isDigit(c)) {
+            digits.push(c);
+        } else if (isServiceCharacter(c)) {
+            digits.push(c);
+            serviceCode = true;
+        } else if (!isFormatCharacter(c)) {
+            if (Logger::m_Traces)
+                KesNumberingRules::logger->debug("MakeCanonical : wrong character in number : " +
+                                                 std::string(strValid));
+            throw std::invalid_argument("'strPhoneNumber' parameter is not a phone number");
+        }
+    }
+    return digits.str();
+}
+
+/// A number dialled with the international prefix: finds the destination country behind it and any
+/// operator prefix. Calling back into the own country keeps the operator prefix, since it is dialled
+/// nationally as well; calling another country drops it.
+void readInternationalPrefix(NumberKind& kind, const std::string& strPhoneNumber, const std::string& digits,
+                             const std::string& internatPfx, KesCountryRuleItem* countryRule) {
+    KesNumberingConfig* config = KesNumberingConfig::getInstance();
+    Logger* logger = KesNumberingRules::logger;
+    KesDialable* dialable = requireDialable(countryRule->countryNumberText());
+    const std::string opPrefix = dialable->extractOperatorPrefix(digits.substr(internatPfx.size()));
+    const std::string::size_type skip = internatPfx.size() + opPrefix.size();
+    const std::string afterPrefixes = digits.substr(skip);
+    const std::string_view countryNumber(afterPrefixes.data(), config->countryNumberLength(afterPrefixes));
+    const std::string* destCode = config->findCountryCode(countryNumber);
+    if (destCode == nullptr) {
+        if (Logger::m_Traces)
+            logger->debug("International number detected but no country code was found '" + strPhoneNumber +
+                          "'");
+        return;
+    }
+    if (Logger::m_Traces)
+        logger->debug("International number detected : '" + digits + "' with CountryCode '" + *destCode +
+                      "'");
+    kind.number = requireCountryRule(config, *destCode)->longDistPrefixText();
+    if (*destCode == kind.countryCode)
+        kind.number += opPrefix;
+    kind.number.append(afterPrefixes, countryNumber.size(), std::string::npos);
+    kind.takeDestination(*destCode);
+}
+
+/// A number dialled with the national prefix, or in a country that writes local and national
+/// numbers alike, is national; anything else may be local.
+bool isNationalByPrefix(const std::string& strPhoneNumber, KesCountryRuleItem* countryRule) {
+    Logger* logger = KesNumberingRules::logger;
+    const std::string& ldp = countryRule->longDistPrefixText();
+    if (ldp.empty()) {
+        const std::string& localRule = countryRule->localRuleText();
+        const std::string& longDistRule = countryRule->longDistRuleText();
+        if ((longDistRule.empty() && localRule == "G") || longDistRule == localRule) {
+            if (Logger::m_Traces)
+                logger->debug("There is no difference between local and national phone number format'" +
+                              strPhoneNumber + "'");
+            return true;
+        }
+        return false;
+    }
+    if (startsWith(strPhoneNumber, ldp)) {
+        if (Logger::m_Traces)
+            logger->debug("National number detected '" + strPhoneNumber + "'");
+        return true;
+    }
+    return false;
+}
+
+/// A number in international form: its calling code names the country, and the rest is written as
+/// that country dials it nationally, so that the country's plan can take it from there.
+void readInternationalForm(NumberKind& kind, std::string_view strValid) {
+    KesNumberingConfig* config = KesNumberingConfig::getInstance();
+    std::string_view countryNumber = countryNumberOf(strValid);
+    const std::string* countryCode;
+    if (countryNumber.empty()) {
+        countryNumber = strValid.substr(1, config->countryNumberLength(strValid.substr(1)));
+        countryCode = config->findCountryCode(countryNumber);
+    } else {
+        countryCode = config->findCountryCode(countryNumber);
+        // "+33123456789": the run of digits is more than the calling code.
+        if (countryCode == nullptr) {
+            countryNumber = countryNumber.substr(0, config->countryNumberLength(countryNumber));
+            countryCode = config->findCountryCode(countryNumber);
+        }
+    }
+    if (countryCode == nullptr) {
+        if (Logger::m_Traces)
+            KesNumberingRules::logger->debug("No country code found for country number '" +
+                                             std::string(countryNumber) + "'");
+        return;
+    }
+    TextCollector digits;
+    for (std::string_view::size_type i = countryNumber.size() + 1; i < strValid.size(); ++i)
+        if (isDigit(strValid[i]))
+            digits.push(strValid[i]);
+    std::string national = digits.str();
+    kind.takeDestination(*countryCode);
+    KesCountryRuleItem* countryRule = requireCountryRule(config, kind.countryCode);
+    std::string noArea;
+    kind.number = requireDialable(std::string(countryNumber))
+                      ->makeLongDistDialableNumber(noArea, national, countryRule, kind.rules());
+}
+
+/// The digits and service characters of `number` into `result`, or nothing when it holds a
+/// character that is neither those nor a presentation character.
+void keepPhoneCharacters(std::string_view number, std::string& result) {
+    for (char c : number) {
+        if (isDigit(c) || isServiceCharacter(c)) {
+            result += c;
+        } else if (!isFormatCharacter(c)) {
+            result.clear();
+            return;
+        }
+    }
+}
+
+/// checkPhoneNumber: the digits and service characters of the number, or "" when it holds another
+/// character.
+std::string phoneCharactersOf(std::string_view strPhoneNumber) {
+    std::string result;
+    // The usual case, digits only, is the number itself.
+    if (allDigits(strPhoneNumber))
+        result.assign(strPhoneNumber);
+    else
+        keepPhoneCharacters(strPhoneNumber, result);
+    if (Logger::m_Traces)
+        KesNumberingRules::logger->debug("checkPhoneNumber('" + std::string(strPhoneNumber) + "') returns '" +
+                                         result + "'");
+    return result;
+}
+
+/// Tells what kind of number `typed` (as the user typed it, trimmed) is, with `strValid` its
+/// validated form; false for a service code, which is never made canonical: `kind.number` holds it.
+bool tellKind(NumberKind& kind, const std::string& typed, std::string_view strValid, bool internationalForm) {
+    if (internationalForm) {
+        readInternationalForm(kind, strValid);
+        return true;
+    }
+    bool serviceCode = false;
+    std::string digits = cleanNationalNumber(strValid, serviceCode);
+    if (serviceCode) {
+        kind.number = std::move(digits);
+        return false;
+    }
+    kind.countryCode = kind.installation->getCountryId();
+    KesCountryRuleItem* countryRule = requireCountryRule(KesNumberingConfig::getInstance(), kind.countryCode);
+    const std::string& internatPfx = countryRule->internatPfxText();
+    // The prefix tests look at the number as typed, not at its digits.
+    if (outsideLinePrefixNeeded(*kind.installation, typed)) {
+        if (startsWith(typed, internatPfx))
+            readInternationalPrefix(kind, typed, digits, internatPfx, countryRule);
+        else
+            kind.known = isNationalByPrefix(typed, countryRule);
+    }
+    // Unless the international prefix led to another country's national number.
+    if (!kind.destination)
+        kind.number = std::move(digits);
+    return true;
+}
+
+/// The country's plan writes the number in canonical form; a number with a character that is not
+/// part of a phone number, or one holding "***", stays as it is.
+std::string canonicalByPlan(KesCNP* plan, std::string number, KesDialRulesItem* rules) {
+    Logger* logger = KesNumberingRules::logger;
+    std::string cleaned = phoneCharactersOf(number);
+    if (cleaned.empty()) {
+        if (Logger::m_Traces)
+            logger->debug("Altered Source Number : '" + number + "'");
+        return number;
+    }
+    if (contains(cleaned, "***"))
+        return cleaned;
+    if (Logger::m_Traces)
+        logger->debug("Source number to be altered : '" + cleaned + "'");
+    return plan->dlr_Country_MakeCanonicalNumber(std::move(cleaned), rules);
+}
+
+/// The generic rules write an international or national number in canonical form; a number that
+/// may be local stays as it is.
+std::string canonicalByGenericRules(NumberKind& kind, std::string_view strAreaCode, bool internationalForm) {
+    Logger* logger = KesNumberingRules::logger;
+    if (Logger::m_Traces)
+        logger->debug("No special format defined for country " + kind.countryCode);
+    if (internationalForm)
+        return defaultCanonicalNumber(std::move(kind.number), kind.countryCode, strAreaCode);
+    if (kind.known)
+        return defaultCanonicalNumber(std::move(kind.number), kind.countryCode, "");
+    if (Logger::m_Traces)
+        logger->debug("Can't translate to a canonical phone number : we don't known if '" + kind.number +
+                      "' is a local or national phone number");
+    return std::move(kind.number);
+}
+
+/// The canonical form of the number `kind` holds. A number of no known country stays as validated;
+/// a local or exception number of the installation is left alone unless it carries the outside-line
+/// prefix or was written in international form.
+std::string canonicalForm(NumberKind& kind, std::string_view strValid, std::string_view strAreaCode,
+                          bool internationalForm) {
+    if (kind.countryCode.empty())
+        return std::string(strValid);
+    KesCNP* plan = KesCNPManager::getInstance()->getCNP(kind.countryCode);
+    KesDialRulesItem* rules = kind.rules();
+    if ((rules->isLocalNumber(kind.number) || rules->isExceptionNumber(kind.number)) &&
+        !startsWith(kind.number, rules->getExtPrefix()) && !internationalForm) {
+        if (Logger::m_Traces)
+            KesNumberingRules::logger->debug("Nothing to do for" + kind.number);
+        return std::move(kind.number);
+    }
+    if (plan != nullptr)
+        return canonicalByPlan(plan, std::move(kind.number), rules);
+    return canonicalByGenericRules(kind, strAreaCode, internationalForm);
+}
+
+} // namespace
+
+std::string KesNumberingRules::makeCanonicalNumber(KesDialRulesItem* myKesDialRulesItem,
+                                                   std::string strPhoneNumber, std::string strPattern) {
+    return makeCanonicalNumber(myKesDialRulesItem, std::move(strPhoneNumber), std::move(strPattern), false);
+}
+
+std::string KesNumberingRules::makeCanonicalNumber(KesDialRulesItem* myKesDialRulesItem,
+                                                   std::string strPhoneNumber, std::string strPattern,
+                                                   bool withExternalPrefix) {
+    requireArguments(myKesDialRulesItem, strPhoneNumber);
+    PinnedConfiguration pin;
+    auto convert = [&]() -> std::string {
+        if (contains(strPhoneNumber, "***"))
+            return strPhoneNumber;
+        if (Logger::m_Traces)
+            logger->debug("MakeCanonicalNumber with : " + strPhoneNumber);
+        trimTypedNumber(strPhoneNumber);
+        if (withExternalPrefix) {
+            const std::string ext = myKesDialRulesItem->getExtPrefix();
+            if (ext.empty())
+                return std::string();
+            if (startsWith(strPhoneNumber, ext))
+                strPhoneNumber.erase(0, ext.size());
+        }
+        std::string layout;
+        const std::string_view strValid = validNumber(strPhoneNumber, layout);
+        const std::string_view strAreaCode = areaCodeOrNatPrefixOf(strValid);
+        const bool internationalForm = firstCharacter(strValid) == '+';
+
+        NumberKind kind(myKesDialRulesItem);
+        if (!tellKind(kind, strPhoneNumber, strValid, internationalForm))
+            return std::move(kind.number);
+        std::string canonical = canonicalForm(kind, strValid, strAreaCode, internationalForm);
+        if (firstCharacter(canonical) == '+')
+            return formatCanonical(canonical, strPattern);
+        return canonical;
+    };
+    return guardConversion(convert, [&](const char* what) {
+        logConversionFailure(logger, "makeCanonicalNumber", what, strPhoneNumber,
+                             ", Pattern: '" + strPattern + "'", myKesDialRulesItem);
+        return std::string();
+    });
+}
+
+std::string_view KesNumberingRules::validNumber(const std::string& strPhoneNumber, std::string& layout) {
+    const std::string_view number = trimmed(strPhoneNumber);
+    if (number.size() < 2 || number[0] != '+')
+        return number;
+    const std::string_view::size_type length = number.size();
+    std::string& result = layout;
+    result += '+';
+    std::string_view::size_type i = 1;
+    while (i < length && !isDigit(number[i]))
+        ++i;
+    while (i < length && isDigit(number[i]))
+        result += number[i++];
+    while (i < length && !isDigit(number[i]))
+        ++i;
+    // The next run of digits is the area code, unless the number was written without separators
+    // ("+33123456789") or nothing follows the calling code: then the calling code stands alone.
+    if (i < length) {
+        result += " (";
+        while (i < length && isDigit(number[i]))
+            result += number[i++];
+        result += ") ";
+        if (Logger::m_Traces)
+            logger->debug("ValidNumber CountryCode + AreaCode : " + result);
+        // The parenthesis that closed the area code is written already.
+        while (i < length && number[i] == ' ')
+            ++i;
+        if (i < length && number[i] == ')')
+            ++i;
+        for (; i < length; ++i)
+            if (number[i] != ' ')
+                result += number[i];
+    }
+    if (Logger::m_Traces)
+        logger->debug("validNumber before : " + std::string(number) + ", after : " + result);
+    return result;
+}
+
+std::string KesNumberingRules::checkPhoneNumber(std::string_view strPhoneNumber) {
+    return phoneCharactersOf(strPhoneNumber);
+}
+
+} // namespace numbering

@@ -1,0 +1,76 @@
+#include "numbering/KesNumberingRules.h"
+
+#include "CanonicalParts.h"
+#include "ConversionGuard.h"
+#include "FacadeInternals.h"
+#include "common/NumberText.h"
+#include "config/Configuration.h"
+#include "numbering/KesCountryRuleItem.h"
+#include "numbering/KesDialRulesItem.h"
+#include "numbering/KesDialable.h"
+#include "numbering/KesDialableManager.h"
+#include "numbering/KesNumberingConfig.h"
+#include "numbering/Logger.h"
+
+#include <algorithm>
+
+namespace numbering {
+
+std::string KesNumberingRules::makeDialableNumber(KesDialRulesItem* myKesDialRulesItem,
+                                                  std::string strCanPhoneNumber) {
+    PinnedConfiguration pin;
+    const std::string countryId = myKesDialRulesItem->getCountryId();
+    const std::vector<std::string>& areaCodes = myKesDialRulesItem->getAreaCodesList();
+    if (Logger::m_Traces)
+        logger->debug("makeDialableNumber('" + countryId + "', '" +
+                      (areaCodes.empty() ? "" : areaCodes.front()) + "', '" + strCanPhoneNumber + "')");
+    KesCountryRuleItem* countryRule = pin.store()->findCountryRule(countryId);
+    if (countryRule == nullptr) {
+        if (Logger::m_Traces)
+            logger->debug("KesNumberingRules:makePhoneNumber no rules defined for this country : " +
+                          countryId);
+        return strCanPhoneNumber;
+    }
+    // Not in canonical form: passes through untouched. A leading blank counts as a "+".
+    const char first = strCanPhoneNumber.at(0);
+    if (first != '+' && first != ' ')
+        return strCanPhoneNumber;
+
+    // "+49 (89) 123456": country "49", area or national prefix "89", subscriber "123456".
+    const CanonicalParts parts = readCanonical(strCanPhoneNumber, CanonicalReading::DigitRuns);
+    std::string country(parts.country);
+    std::string areaNatPfx(parts.area);
+    std::string number;
+    appendDigits(parts.subscriber, number);
+    if (Logger::m_Traces)
+        logger->debug("Country : '" + country + "', Area/Nat Pfx : '" + areaNatPfx + "', Number : '" +
+                      number + "'");
+    // The installation's country chooses the strategy, never the destination's.
+    const std::string& countryNumber = countryRule->countryNumberText();
+    KesDialable* dialable = requireDialable(countryNumber);
+    // A number too long to be dialled, or one without a subscriber number, has no dialable form.
+    if (strCanPhoneNumber.size() >=
+            static_cast<std::string::size_type>(KesNumberingConfig::MAX_PHONE_NUMBER_LENGTH) ||
+        number.empty())
+        return std::string();
+
+    if (countryNumber != country) {
+        if (Logger::m_Traces)
+            logger->debug("KesNumberingRules : makePhoneNumber International");
+        return dialable->makeInternationalDialableNumber(country, areaNatPfx, number, countryRule);
+    }
+    if (std::find(areaCodes.begin(), areaCodes.end(), areaNatPfx) != areaCodes.end()) {
+        if (Logger::m_Traces)
+            logger->debug("KesNumberingRules : makePhoneNumber local with area code");
+        return dialable->makeLocalDialableNumber(areaNatPfx, number, countryRule);
+    }
+    if (Logger::m_Traces)
+        logger->debug("KesNumberingRules : makePhoneNumber Long Distance");
+    return dialable->makeLongDistDialableNumber(areaNatPfx, number, countryRule, myKesDialRulesItem);
+}
+
+bool KesNumberingRules::isPrefixNeeded(KesDialRulesItem* myKesDialRulesItem, std::string strPhoneNumber) {
+    return myKesDialRulesItem != nullptr && outsideLinePrefixNeeded(*myKesDialRulesItem, strPhoneNumber);
+}
+
+} // namespace numbering
