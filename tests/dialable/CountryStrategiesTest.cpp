@@ -3,6 +3,7 @@
 
 #include "numbering/KesCountryRuleItem.h"
 #include "numbering/KesDialRulesItem.h"
+#include "numbering/KesDialable.h"
 #include "numbering/KesDialable_52.h"
 #include "numbering/KesDialable_54.h"
 #include "numbering/KesDialable_57.h"
@@ -14,6 +15,7 @@
 
 #include <stdexcept>
 #include <string>
+#include <vector>
 
 using namespace numbering;
 
@@ -191,4 +193,58 @@ TEST_F(CountryStrategies, TheArgentineThreeArgumentLocalFormStaysGeneric) {
     EXPECT_EQ(argentina.makeLocalDialableNumber(area, number, ruleOf("54", "0").get()), "154123456");
     Rule withLocalRule(new KesCountryRuleItem("54", "00", "EF", "0F", "F", "Argentina"));
     EXPECT_EQ(argentina.makeLocalDialableNumber(area, number, withLocalRule.get()), "351154123456");
+}
+
+// The generic strategy: the letters of the international rule, and the destination's national prefix
+// looked up in the store (the United Kingdom writes "0").
+TEST_F(CountryStrategies, GenericInternationalRuleLetters) {
+    KesDialable strategy;
+    struct Case {
+        std::string rule, country, area, number, expected;
+    };
+    const std::vector<Case> cases = {
+        // Letters other than E, F and I are ignored.
+        {"EFG", "49", "89", "123456", "004989123456"},
+        {"E", "49", "89", "123456", "0049123456"},
+        {"F", "49", "89", "123456", "0089123456"},
+        {"", "49", "89", "123456", "00123456"},
+        // The destination's national prefix in place of an area code is dropped, on an exact match only.
+        {"EF", "44", "0", "2071234567", "00442071234567"},
+        {"EF", "44", "01", "234567", "004401234567"},
+        // A destination the store does not know keeps its area field.
+        {"EF", "999", "0", "1234", "0099901234"},
+    };
+    for (const Case& c : cases) {
+        Rule rule(new KesCountryRuleItem("33", "00", c.rule, "0F", "", "Test"));
+        std::string country = c.country, area = c.area, number = c.number;
+        EXPECT_EQ(strategy.makeInternationalDialableNumber(country, area, number, rule.get()), c.expected)
+            << c.rule << " " << c.country << "/" << c.area << "/" << c.number;
+    }
+}
+
+TEST_F(CountryStrategies, GenericLongDistanceAndLocalRulesMergeThePrefix) {
+    KesDialable strategy;
+    struct Case {
+        std::string rule, area, number, expected;
+    };
+    const std::vector<Case> cases = {
+        {"0F", "4", "76112233", "0476112233"},
+        // The prefix is completed, never doubled.
+        {"0F", "04", "76112233", "0476112233"},
+        {"01F", "0234", "5", "012345"},
+        // "I": the prefix without the area code.
+        {"0I", "4", "76112233", "076112233"},
+        {"", "4", "76112233", "76112233"},
+        {"F", "1", "234", "1234"},
+    };
+    KesDialRulesItem rules;
+    for (const Case& c : cases) {
+        Rule longDist(new KesCountryRuleItem("33", "00", "EF", c.rule, "", "Test"));
+        Rule local(new KesCountryRuleItem("33", "00", "EF", "", c.rule, "Test"));
+        std::string area = c.area, number = c.number;
+        EXPECT_EQ(strategy.makeLongDistDialableNumber(area, number, longDist.get(), &rules), c.expected)
+            << "long distance " << c.rule << " " << c.area << "/" << c.number;
+        EXPECT_EQ(strategy.makeLocalDialableNumber(area, number, local.get()), c.expected)
+            << "local " << c.rule << " " << c.area << "/" << c.number;
+    }
 }
