@@ -7,6 +7,7 @@
 #include "numbering/KesCNP.h"
 #include "numbering/KesCharsTreeElement.h"
 #include "numbering/KesClid.h"
+#include "numbering/KesConfigurationCheck.h"
 #include "numbering/KesCountryRuleItem.h"
 #include "numbering/KesDialRulesItem.h"
 #include "numbering/KesDialable.h"
@@ -248,4 +249,33 @@ TEST(ConcurrentConversions, ReloadsUnderLoadNeverMixTwoConfigurations) {
     EXPECT_EQ(convertAll(), inB) << "the last reload read the second directory";
     KesNumberingRules::reload(std::string()); // back to the directory of the start
     expectEverythingReleased();
+}
+
+// The configuration check beside conversions and reloads (a host checks a directory before it
+// reloads from it): it shares nothing with them.
+TEST(ConcurrentConversions, ConfigurationCheckSharesNothingWithThem) {
+    std::atomic<bool> checking{true};
+    std::atomic<int> empty{0};
+    std::vector<std::thread> threads;
+    for (int t = 0; t < 2; ++t)
+        threads.emplace_back([&] {
+            KesDialRulesItem munich("DE", "0", 4, "89", 0, "");
+            while (checking)
+                if (KesNumberingRules::getInstance()->makeCanonicalNumber(&munich, "0301234567", "").empty())
+                    ++empty;
+        });
+    threads.emplace_back([&] {
+        while (checking)
+            KesNumberingRules::reload();
+    });
+    std::size_t findings = 0;
+    for (int round = 0; round < 2; ++round)
+        findings += KesConfigurationCheck::check(NUMBERING_SHIPPED_DATA).findings.size();
+    checking = false;
+    for (std::thread& thread : threads)
+        thread.join();
+
+    EXPECT_EQ(findings, 0u) << "the shipped configuration checks clean";
+    EXPECT_EQ(empty.load(), 0);
+    KesNumberingRules::resetInstance();
 }
