@@ -34,7 +34,9 @@ const std::string RULES =
 const std::string MASKS = "Mask_1_1=+C (A) xxx-xxxx\nMask_33_1=+C (A) x xx xx xx xx\n"
                           "Mask_49_1=+C (A) xxxxxx\nMask_57_1=+C (A) xxxxxxx\n";
 const std::string SWITCHES = "cnp_1=on\ncnp_49=on\n";
-const std::string AREA_CODES = "Translate=1\nAC_0000=30 Berlin\nAC_0001=301\nAC_0002=89 Muenchen\n";
+// 301234567890123456789 is as long as an area code of +49 may be.
+const std::string AREA_CODES =
+    "Translate=1\nAC_0000=30 Berlin\nAC_0001=301234567890123456789\nAC_0002=89 Muenchen\n";
 const std::string OPERATORS = "OP_DEFAULT=9\nOP_0000=5\nOP_0001=9\n";
 
 /// A reference nested `depth` deep: k0 names k1, ..., the last names a plain value.
@@ -95,6 +97,7 @@ const BrokenConfiguration BROKEN[] = {
      "stops reading the dialing rules here, and the 2 rows after it"},
     {RULES_FILE, RULES + "GB=44:00:EF\n", ERROR, 6, "GB has 3 fields"},
     {RULES_FILE, RULES + "GB=4a:00:EF:0F::UK:P\n", ERROR, 6, "calling code '4a' is not one to three digits"},
+    {RULES_FILE, RULES + "GB=44:0O:EF:0F::UK:P\n", ERROR, 6, "international prefix '0O' is not digits"},
     {RULES_FILE, RULES + "GB=44:00:EF:0EF::UK:P\n", ERROR, 6, "long-distance prefix '0E'"},
     {RULES_FILE, RULES + "GB=44:00:EFI:0F::UK:P\n", WARNING, 6,
      "international rule 'EFI': 'I' means nothing there"},
