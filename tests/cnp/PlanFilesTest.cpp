@@ -116,7 +116,6 @@ TEST_F(PlanFiles, MissingFilesLeaveAnEmptyTreeAndTheSummaryIsTraced) {
     Poco::AutoPtr<KesAreaCodePlan> argentina = filePlan("54");
     EXPECT_EQ(germany->areaCodeCount, 0);
     EXPECT_TRUE(germany->translate);
-    EXPECT_TRUE(testhost::logged("DEBUG N9numbering9KesCNP_49E - KesCNP_49()"));
     EXPECT_TRUE(testhost::logged("DEBUG N9numbering9KesCNP_49E - KesCNP_49 : "));
     EXPECT_TRUE(testhost::logged("KesCNP_49 :  max length areacode : 0 nb area code : 0"));
     EXPECT_TRUE(testhost::logged("KesCNP_54 :  max length areacode : 3 nb area code : 2"));

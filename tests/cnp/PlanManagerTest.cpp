@@ -1,39 +1,28 @@
-#include "PlanWorld.h"
-#include "TestConfig.h"
+// The factory of plans by calling code and the manager that caches them by country.
 
-#include "numbering/KesCNPFactory.h"
+#include "PlanWorld.h"
+#include "TestHost.h"
+
 #include "numbering/KesCNPManager.h"
 #include "numbering/KesCNP_353.h"
 #include "numbering/KesCNP_49.h"
 
-#include <Poco/AutoPtr.h>
 #include <gtest/gtest.h>
 
 using namespace numbering;
+using namespace planworld;
 
-namespace {
-
-class PlanManager : public ::testing::Test {
-protected:
-    void SetUp() override {
-        testconfig::useStandardWorld();
-        KesCNPManager::resetInstance();
-    }
-    void TearDown() override { KesCNPManager::resetInstance(); }
-};
-
-} // namespace
+using PlanManager = PlanTest; // the world's reload resets the manager before and after each test
 
 TEST(PlanFactory, MatchesCallingCodesExactly) {
-    for (const char* code : planworld::PLAN_CODES)
-        EXPECT_FALSE(planworld::plan(code).isNull()) << code;
+    for (const char* code : PLAN_CODES)
+        EXPECT_FALSE(plan(code).isNull()) << code;
     for (const char* code : {"35", "0049", "+49", "49 ", "", "39", "3530"})
         EXPECT_EQ(KesCNPFactory::CreateInstance(code), nullptr) << code;
-    Poco::AutoPtr<KesCNP> irish(KesCNPFactory::CreateInstance("353"));
-    EXPECT_NE(dynamic_cast<KesCNP_353*>(irish.get()), nullptr);
+    EXPECT_NE(dynamic_cast<KesCNP_353*>(plan("353").get()), nullptr);
 }
 
-TEST_F(PlanManager, CachesOnePlanPerCountry) {
+TEST_F(PlanManager, CachesOnePlanPerCountryAndRemembersCountriesWithout) {
     KesCNPManager* manager = KesCNPManager::getInstance();
     KesCNP* german = manager->getCNP("DE");
     EXPECT_NE(dynamic_cast<KesCNP_49*>(german), nullptr);
@@ -41,11 +30,12 @@ TEST_F(PlanManager, CachesOnePlanPerCountry) {
     // A lower-case key misses the cache, builds a plan under the upper-case key and, that key being
     // taken, is answered with the cached plan.
     EXPECT_EQ(manager->getCNP("de"), german);
-}
-
-TEST_F(PlanManager, CountriesWithoutPlanAreRemembered) {
-    KesCNPManager* manager = KesCNPManager::getInstance();
-    EXPECT_EQ(manager->getCNP("X"), nullptr);
+    {
+        testhost::Tracing on;
+        EXPECT_EQ(manager->getCNP("X"), nullptr);
+        EXPECT_TRUE(testhost::logged("DEBUG N9numbering13KesCNPManagerE - getCNP('X')"));
+        EXPECT_TRUE(testhost::logged("DEBUG N9numbering13KesCNPManagerE - loadCNPClass('X')"));
+    }
     EXPECT_TRUE(manager->isCountryNotFound("X"));
     EXPECT_EQ(manager->getCNP("it"), nullptr) << "Italy has no plan";
     EXPECT_TRUE(manager->isCountryNotFound("IT")) << "stored upper-cased";

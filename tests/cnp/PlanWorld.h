@@ -25,40 +25,33 @@ namespace planworld {
 const char* const PLAN_CODES[] = {"1",  "7",  "31", "32", "33", "41", "43", "44",
                                   "49", "52", "54", "57", "61", "64", "353"};
 
-/// A plan that reads its area codes from "tz310cnp_<code>.properties", with the texts it logs when
-/// that file is missing or cannot be opened: each plan's own, slips included (44 names Austria,
-/// 353 writes "Irelandd").
-struct FilePlan {
-    const char* code;
-    const char* textWhenUnopenable;
-    const char* textWhenNotFound;
-    bool readsTranslate;
-    std::initializer_list<const char*> areaCodes; // the codes the shared world gives it
-};
-
 /// "N9numbering9KesCNP_49E": the logger of a plan class.
 inline std::string loggerOf(const std::string& className) {
     return "N9numbering" + std::to_string(className.size()) + className + "E";
 }
 
 const char* const NO_FILE = "No specific dialing rules configuration file";
+const char* const IRELAND_UNOPENABLE = "No specific dialing rules configuration for Irelandd";
+const char* const IRELAND_NOT_FOUND = "No specific dialing rules configuration for Ireland";
+const char* const ARGENTINA = "No specific configuration file for Argentina";
 
-const FilePlan FILE_PLANS[] = {
+/// A plan that reads its area codes from "tz310cnp_<code>.properties": the texts it logs when that
+/// file cannot be opened and when it is missing (each plan's own, slips included: 44 names Austria,
+/// 353 writes "Irelandd"), whether it reads "Translate", and the codes the shared world gives it.
+const struct FilePlan {
+    const char* code;
+    const char* textWhenUnopenable;
+    const char* textWhenNotFound;
+    bool readsTranslate;
+    std::initializer_list<const char*> areaCodes;
+} FILE_PLANS[] = {
     {"49", NO_FILE, NO_FILE, true, {"30", "89", "221", "711"}},
     {"43", "No specific configuration file for Austria", NO_FILE, true, {"1", "316", "662"}},
     {"31", "No specific configuration file for Netherlands", NO_FILE, true, {"20", "10"}},
     {"32", "No specific configuration file for Belgium", NO_FILE, false, {"2", "9"}},
     {"44", "No specific configuration file for Austria", NO_FILE, true, {"20", "161"}},
-    {"353",
-     "No specific dialing rules configuration for Irelandd",
-     "No specific dialing rules configuration for Ireland",
-     true,
-     {"1"}},
-    {"54",
-     "No specific configuration file for Argentina",
-     "No specific configuration file for Argentina",
-     true,
-     {"11", "351"}},
+    {"353", IRELAND_UNOPENABLE, IRELAND_NOT_FOUND, true, {"1"}},
+    {"54", ARGENTINA, ARGENTINA, true, {"11", "351"}},
     {"61", "No specific configuration file for Australia", NO_FILE, true, {"2", "3"}},
     {"52", "No specific configuration file for Mexico", NO_FILE, true, {"2222"}},
 };

@@ -9,32 +9,26 @@ failures=0
 work=$(mktemp -d)
 trap 'rm -rf "$work"' EXIT
 
-# check EXPECTED_STATUS NAME ARGS...: runs the tool; sets out and err.
+fail() {
+    printf 'FAIL: %s\n  stdout: %s\n  stderr: %s\n' "$1" "$out" "$err"
+    failures=$((failures + 1))
+}
+
+# check EXPECTED_STATUS NAME ARGS...: runs the tool and checks its exit status; sets out and err.
 check() {
     local expected=$1 name=$2
     shift 2
     out=$("$tool" "$@" 2>"$work/err")
     status=$?
     err=$(cat "$work/err")
-    if [ "$status" != "$expected" ]; then
-        echo "FAIL: $name (exit status $status, wanted $expected)"
-        echo "  stdout: $out"
-        echo "  stderr: $err"
-        failures=$((failures + 1))
-    fi
+    [ "$status" = "$expected" ] || fail "$name (exit status $status, wanted $expected)"
 }
 
-expect_line() {
-    if ! grep -qxF -- "$2" <<<"$out"; then
-        echo "FAIL: $1: no line '$2' in:"
-        echo "$out"
-        failures=$((failures + 1))
-    fi
-}
+# expect_line NAME LINE: LINE is one of the lines on standard output.
+expect_line() { grep -qxF -- "$2" <<<"$out" || fail "$1: no line '$2'"; }
 
 check 0 "shipped configuration" check --config-dir "$data"
-[ -z "$out$err" ] || { echo "FAIL: the shipped configuration gives findings: $out$err"; failures=$((failures + 1)); }
-
+[ -z "$out$err" ] || fail "the shipped configuration gives findings"
 NUMBERING_CONFIG_DIR=$data check 0 "shipped configuration through NUMBERING_CONFIG_DIR" check
 
 # Notes only: the installation file is in use, its default is not read.
@@ -56,7 +50,7 @@ expect_line "errors" "$work/notes/dlr_cnp_mask.properties: error: no mask for +4
 
 check 2 "an empty directory" check --config-dir "$work/empty-directory"
 check 2 "a number after check" check 0123456789
-[[ "$err" == *"check takes no number"* ]] || { echo "FAIL: a number after check: $err"; failures=$((failures + 1)); }
+[[ "$err" == *"check takes no number"* ]] || fail "a number after check"
 
 if [ "$failures" -ne 0 ]; then
     echo "$failures check(s) failed"
