@@ -13,7 +13,9 @@ template <class Owner> class ReferenceCount {
 public:
     ReferenceCount() noexcept { __atomic_add_fetch(&Owner::_count, 1, __ATOMIC_RELAXED); }
     /// A copied object is a new instance with its own single reference.
-    ReferenceCount(const ReferenceCount&) noexcept { __atomic_add_fetch(&Owner::_count, 1, __ATOMIC_RELAXED); }
+    ReferenceCount(const ReferenceCount&) noexcept {
+        __atomic_add_fetch(&Owner::_count, 1, __ATOMIC_RELAXED);
+    }
     /// Assignment leaves the references of the assigned object as they are.
     ReferenceCount& operator=(const ReferenceCount&) noexcept { return *this; }
     ~ReferenceCount() { __atomic_sub_fetch(&Owner::_count, 1, __ATOMIC_RELAXED); }

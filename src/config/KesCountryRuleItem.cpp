@@ -23,12 +23,15 @@ std::string prefixOfRule(const std::string& rule) {
 KesCountryRuleItem::KesCountryRuleItem(std::string number, std::string intPfx, std::string intRule,
                                        std::string ldRule, std::string locRule, std::string name)
     : countryNumber(std::move(number)), internatPfx(std::move(intPfx)), internatRule(std::move(intRule)),
-      longDistRule(Poco::trim(ldRule)), localRule(std::move(locRule)), longDistPrefix(prefixOfRule(longDistRule)),
-      localDistPrefix(prefixOfRule(localRule)), countryName(std::move(name)) {}
+      longDistRule(Poco::trim(ldRule)), localRule(std::move(locRule)),
+      longDistPrefix(prefixOfRule(longDistRule)), localDistPrefix(prefixOfRule(localRule)),
+      countryName(std::move(name)) {}
 
 KesCountryRuleItem::~KesCountryRuleItem() = default;
 
-void KesCountryRuleItem::duplicate() { references.duplicate(); }
+void KesCountryRuleItem::duplicate() {
+    references.duplicate();
+}
 
 void KesCountryRuleItem::release() {
     if (references.release())

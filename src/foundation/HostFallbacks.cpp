@@ -7,4 +7,6 @@
 
 __attribute__((weak)) bool Logger::m_Traces = false;
 
-__attribute__((weak)) void FlogWrite(const char* text, short /*value*/) { std::fprintf(stderr, "%s\n", text); }
+__attribute__((weak)) void FlogWrite(const char* text, short /*value*/) {
+    std::fprintf(stderr, "%s\n", text);
+}

@@ -13,12 +13,22 @@ KesClid::KesClid(std::string clidNumber, KesEnumOrigin* clidOrigin)
 
 KesClid::~KesClid() = default;
 
-void KesClid::setNumber(std::string clidNumber) { number = std::move(clidNumber); }
-void KesClid::setOrigin(KesEnumOrigin* clidOrigin) { origin = clidOrigin; }
-std::string KesClid::getNumber() { return number; }
-KesEnumOrigin* KesClid::getOrigin() { return origin; }
+void KesClid::setNumber(std::string clidNumber) {
+    number = std::move(clidNumber);
+}
+void KesClid::setOrigin(KesEnumOrigin* clidOrigin) {
+    origin = clidOrigin;
+}
+std::string KesClid::getNumber() {
+    return number;
+}
+KesEnumOrigin* KesClid::getOrigin() {
+    return origin;
+}
 
-void KesClid::duplicate() { references.duplicate(); }
+void KesClid::duplicate() {
+    references.duplicate();
+}
 
 void KesClid::release() {
     if (references.release())

@@ -30,7 +30,9 @@ const char* const STANDARD_DIALING_RULES = "AR = 54:00:EF:0F::Argentina:P\n"
                                            "RU = 7:810:EF:8F::Russia:P\n"
                                            "US = 1:011:EF:1F::United States:P\n";
 
-std::string directory() { return numbering::KesNumberingConfig::configDirectory(); }
+std::string directory() {
+    return numbering::KesNumberingConfig::configDirectory();
+}
 
 void write(const std::string& fileName, const std::string& content) {
     ::mkdir(directory().c_str(), 0755);
@@ -40,7 +42,9 @@ void write(const std::string& fileName, const std::string& content) {
     file << content;
 }
 
-void remove(const std::string& fileName) { std::remove((directory() + fileName).c_str()); }
+void remove(const std::string& fileName) {
+    std::remove((directory() + fileName).c_str());
+}
 
 void clearAll() {
     DIR* dir = ::opendir(directory().c_str());
@@ -55,7 +59,9 @@ void clearAll() {
 }
 
 // The facade tears down the plan and strategy caches and the store with itself.
-void reload() { numbering::KesNumberingRules::resetInstance(); }
+void reload() {
+    numbering::KesNumberingRules::resetInstance();
+}
 
 const std::string& identityMasks() {
     static const std::string masks = [] {

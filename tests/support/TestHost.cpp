@@ -23,7 +23,9 @@ std::vector<std::string>& lines() {
     return received;
 }
 
-void clear() { lines().clear(); }
+void clear() {
+    lines().clear();
+}
 
 int countLogged(const std::string& text) {
     return static_cast<int>(std::count_if(lines().begin(), lines().end(), [&](const std::string& line) {
@@ -31,13 +33,17 @@ int countLogged(const std::string& text) {
     }));
 }
 
-bool logged(const std::string& text) { return countLogged(text) > 0; }
+bool logged(const std::string& text) {
+    return countLogged(text) > 0;
+}
 
 Tracing::Tracing(bool on) : previous(Logger::m_Traces) {
     Logger::m_Traces = on;
     clear();
 }
 
-Tracing::~Tracing() { Logger::m_Traces = previous; }
+Tracing::~Tracing() {
+    Logger::m_Traces = previous;
+}
 
 } // namespace testhost

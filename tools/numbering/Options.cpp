@@ -42,7 +42,8 @@ int toLength(const std::string& option, const std::string& value) {
     char* end = nullptr;
     long length = std::strtol(value.c_str(), &end, 10);
     if (value.empty() || *end != '\0' || length < 0 || length > 1000)
-        throw std::invalid_argument("option " + option + " wants a whole number from 0 to 1000, not '" + value + "'");
+        throw std::invalid_argument("option " + option + " wants a whole number from 0 to 1000, not '" +
+                                    value + "'");
     return static_cast<int>(length);
 }
 
@@ -84,7 +85,8 @@ Options parseOptions(int argc, char** argv) {
             positional.insert(positional.end(), argv + i + 1, argv + argc), i = argc;
         else if (argument.size() > 1 && argument[0] == '-' && argument[1] == '-')
             throw std::invalid_argument("unknown option " + argument);
-        else if (argument.size() == 2 && argument[0] == '-' && argument[1] != '+' && !std::isdigit(argument[1]))
+        else if (argument.size() == 2 && argument[0] == '-' && argument[1] != '+' &&
+                 !std::isdigit(argument[1]))
             throw std::invalid_argument("unknown option " + argument);
         else
             positional.push_back(argument);

@@ -83,7 +83,8 @@ int main(int argc, char** argv) {
     if (options.command == "check")
         return runCheck(directory);
     // Without dialing rules every country would be reported as unsupported: name the real cause.
-    if (!isFile(directory + "dialingrules.properties") && !isFile(directory + "dialingrules_default.properties")) {
+    if (!isFile(directory + "dialingrules.properties") &&
+        !isFile(directory + "dialingrules_default.properties")) {
         std::cerr << "numbering: no dialing rules in " << directory << "\n";
         return 2;
     }
