@@ -6,32 +6,14 @@
 
 #include <gtest/gtest.h>
 
-#include <cstdio>
 #include <string>
+#include <sys/stat.h>
+#include <unistd.h>
 
 using namespace numbering;
 using namespace planworld;
 
 namespace {
-
-// Puts a plain file where the configuration directory was, so that opening any file in it fails
-// with "not a directory"; the directory comes back at the end of the scope.
-class DirectoryReplacedByAFile {
-public:
-    DirectoryReplacedByAFile() : aside(testconfig::directory()) {
-        aside.pop_back();
-        std::rename(aside.c_str(), (aside + ".aside").c_str());
-        if (std::FILE* file = std::fopen(aside.c_str(), "w"))
-            std::fclose(file);
-    }
-    ~DirectoryReplacedByAFile() {
-        std::remove(aside.c_str());
-        std::rename((aside + ".aside").c_str(), aside.c_str());
-    }
-
-private:
-    std::string aside;
-};
 
 // No plan file at all unless the test writes one.
 class PlanFiles : public PlanTest {
@@ -96,16 +78,17 @@ TEST_F(PlanFiles, InstallationFileIsNeverMergedWithTheDefault) {
     EXPECT_TRUE(plan->translate);
 }
 
-TEST_F(PlanFiles, UnopenableFilesGiveThePlansOtherTextAndAnEmptyTree) {
-    DirectoryReplacedByAFile replaced;
+// An installation file that is a directory cannot be opened: the plan's other text, then the default.
+TEST_F(PlanFiles, UnopenableFilesGiveThePlansOtherTextAndTheDefault) {
     for (const FilePlan& p : FILE_PLANS) {
+        ASSERT_EQ(::mkdir((testconfig::directory() + installationFile(p.code)).c_str(), 0755), 0);
+        testconfig::write(defaultFile(p.code), "Translate=1\n" + areaCodeLines({"7"}));
         testhost::Tracing off(false);
-        Poco::AutoPtr<KesAreaCodePlan> plan = filePlan(p.code);
-        EXPECT_EQ(plan->areaCodeCount, 0) << p.code;
-        EXPECT_TRUE(plan->translate) << p.code;
+        EXPECT_EQ(filePlan(p.code)->areaCodeCount, 1) << p.code;
         EXPECT_TRUE(testhost::logged(std::string("INFO ") + loggerOf(std::string("KesCNP_") + p.code) +
                                      " - " + p.textWhenUnopenable))
             << p.code;
+        ::rmdir((testconfig::directory() + installationFile(p.code)).c_str());
     }
 }
 

@@ -51,13 +51,27 @@ TEST_F(NumberingConfig, FieldSplitting) {
     EXPECT_EQ(config->getCountryRule("DD")->getInternatRule(), "EF");
 }
 
-TEST_F(NumberingConfig, FirstKeyWinsForSharedNamesAndNumbers) {
+// Of rows sharing a calling code or a name the first key wins; codes are looked up by their two
+// characters as written; names list byte-wise.
+TEST_F(NumberingConfig, LookUps) {
     KesNumberingConfig* config = load("CA = 1:011:EF:1F::North America:P\n"
-                                      "US = 1:011:EF:1F::North America:P\n");
+                                      "US = 1:011:EF:1F::North America:P\n"
+                                      "AX = 358:00:EF:0F::aland:\n"
+                                      "ZA = 27:00:EF:0F::South Africa:P\n"
+                                      "fra = 99:00:EF:0F::Lower:P\n"
+                                      "F = 98:00:EF:0F::One:P\n");
     EXPECT_EQ(config->getCountryCodeFromNumber("1"), "CA");
     EXPECT_EQ(config->getCountryCodeFromName("North America"), "CA");
-    EXPECT_EQ(config->getCountryList().size(), 1u);
     EXPECT_TRUE(config->validCountryCode("US"));
+    EXPECT_EQ(config->getCountryList(),
+              (std::vector<std::string>{"Lower", "North America", "One", "South Africa", "aland"}));
+    for (const char* code : {"fra", "F", "", "ca"}) {
+        EXPECT_EQ(config->getCountryName(code), "") << code;
+        EXPECT_FALSE(config->validCountryCode(code)) << code;
+        EXPECT_EQ(config->getCountryRule(code), nullptr) << code;
+    }
+    EXPECT_EQ(config->getCountryCodeFromName("Lower"), "fra");
+    EXPECT_EQ(config->getCountryCodeFromNumber(""), "");
 }
 
 TEST_F(NumberingConfig, ShortestCountryNumberWinsUpToFourCharacters) {
@@ -69,31 +83,6 @@ TEST_F(NumberingConfig, ShortestCountryNumberWinsUpToFourCharacters) {
     EXPECT_EQ(config->extractCountryNumber("99991234"), "9999");
     EXPECT_EQ(config->extractCountryNumber("99999123"), "9999");
     EXPECT_EQ(config->extractCountryNumber("+12685551234"), "") << "a plus is not stripped";
-    EXPECT_EQ(config->extractCountryNumber(""), "");
-}
-
-TEST_F(NumberingConfig, LookUpsDemandTwoCharacterCodes) {
-    KesNumberingConfig* config = load("FR = 33:00:EF:0F::France:P\n"
-                                      "fra = 99:00:EF:0F::Lower:P\n"
-                                      "F = 98:00:EF:0F::One:P\n");
-    for (const char* code : {"fra", "F", "", "fr"}) {
-        EXPECT_EQ(config->getCountryName(code), "") << code;
-        EXPECT_EQ(config->getCountryNumber(code), "") << code;
-        EXPECT_FALSE(config->validCountryCode(code)) << code;
-        EXPECT_EQ(config->getCountryRule(code), nullptr) << code;
-    }
-    EXPECT_EQ(config->getCountryCodeFromName("Lower"), "fra");
-    EXPECT_EQ(config->getCountryCodeFromName(""), "");
-    EXPECT_EQ(config->getCountryCodeFromNumber(""), "");
-}
-
-TEST_F(NumberingConfig, CountryListIsSortedByteWise) {
-    KesNumberingConfig* config = load("DE = 49:00:EF:0F::Germany:P\n"
-                                      "AT = 43:00:EF:0F::Austria:P\n"
-                                      "ZA = 27:00:EF:0F::South Africa:P\n"
-                                      "AX = 358:00:EF:0F::aland:\n");
-    std::vector<std::string> expected = {"Austria", "Germany", "South Africa", "aland"};
-    EXPECT_EQ(config->getCountryList(), expected);
 }
 
 TEST_F(NumberingConfig, DefaultFileIsReadOnlyWhenTheInstallationFileIsMissing) {

@@ -186,15 +186,6 @@ TEST_F(CountryStrategies, ColombianInternationalFormRepeatsTheNumber) {
     }
 }
 
-// Numbers inside the installation's own areas reach the generic three-argument form.
-TEST_F(CountryStrategies, TheArgentineThreeArgumentLocalFormStaysGeneric) {
-    KesDialable_54 argentina;
-    std::string area = "351", number = "154123456";
-    EXPECT_EQ(argentina.makeLocalDialableNumber(area, number, ruleOf("54", "0").get()), "154123456");
-    Rule withLocalRule(new KesCountryRuleItem("54", "00", "EF", "0F", "F", "Argentina"));
-    EXPECT_EQ(argentina.makeLocalDialableNumber(area, number, withLocalRule.get()), "351154123456");
-}
-
 // The generic strategy: the letters of the international rule, and the destination's national prefix
 // looked up in the store (the United Kingdom writes "0").
 TEST_F(CountryStrategies, GenericInternationalRuleLetters) {

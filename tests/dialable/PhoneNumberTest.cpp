@@ -72,15 +72,8 @@ TEST_F(PhoneNumber, UnusableArgumentsAndFailures) {
                   "'strPhoneNumber' parameter can not be null");
         EXPECT_EQ((facade->*operation)(&rules, " 0***1"), " 0***1");
     }
-    // Only white space: the error of the character access, and the number as trimmed.
-    EXPECT_EQ(facade->makePhoneNumber(&rules, "   "), "");
-    const std::string line = testhost::lines().back();
-    const std::string head =
-        "ERROR N9numbering17KesNumberingRulesE - KesNumberingRules::makePhoneNumber exception: ";
-    const std::string tail = std::string(" - PhoneNumber: ''\n  DialRules: ") + rules.ToString().c_str();
-    EXPECT_EQ(line.substr(0, head.size()), head);
-    ASSERT_GT(line.size(), head.size() + tail.size());
-    EXPECT_EQ(line.substr(line.size() - tail.size()), tail);
+    EXPECT_EQ(facade->makePhoneNumber(&rules, "   "), ""); // only white space
+    EXPECT_EQ(testhost::countLogged("KesNumberingRules::makePhoneNumber exception: "), 1);
     KesDialRulesItem noPrefix("SE", "", 4, "8", 0, "");
     EXPECT_EQ(facade->addExternalPrefix(&noPrefix, " \t "), "");
     EXPECT_EQ(testhost::countLogged("KesNumberingRules::addExternalPrefix exception: "), 1);

@@ -1,7 +1,7 @@
 // Numbers come from outside (a calling number from a trunk, what a user typed). Whatever they hold,
-// no conversion fails the host, every line the sink receives stays one log line with no terminal
-// control in it (the line break before "DialRules:" is the library's own and the only one), and no
-// debug text is written while tracing is off.
+// every line the sink receives stays one log line with no terminal control in it (the line break
+// before "DialRules:" is the library's own and the only one), and no debug text is written while
+// tracing is off. (The conversion fuzzer sees that no input fails the host.)
 #include "FacadeWorld.h"
 
 #include "numbering/KesClid.h"
@@ -62,28 +62,8 @@ const std::vector<std::string> FORGING_NUMBERS = {
     "999",
 };
 
-/// Fragments of the canonical form, and a few numbers too long or too odd to write as they stand.
-std::vector<std::string> oddNumbers() {
-    std::vector<std::string> numbers = {
-        "+",  "++", "(",  ")",  "()",  "+(",    "+ (",     "|",        "+46 (", "+46 ()",   "+46 (8",
-        ")(", "+|", "0|", "00", "000", "+ 46 ", "+46 8 (", "00 46 ()", "*#*",   "\xff\xfe", "+46 (8) )"};
-    numbers.push_back(std::string("0\0"
-                                  "1",
-                                  3));
-    numbers.push_back("+" + std::string(300, '4'));
-    numbers.push_back("+46 " + std::string(300, '('));
-    numbers.push_back("00 46 " + std::string(100, '8'));
-    return numbers;
-}
-
 bool isControl(char c) {
     return static_cast<unsigned char>(c) < 0x20 || c == '\x7f';
-}
-
-TEST_F(OddInputs, NeverFailTheHost) {
-    useMasks("Mask_46_1 = +C (a) xxx xxx xx\n");
-    for (const std::string& number : oddNumbers())
-        EXPECT_NO_THROW(convertAll(number)) << "'" << number << "'";
 }
 
 TEST_F(OddInputs, EveryMessageIsOneLogLine) {
