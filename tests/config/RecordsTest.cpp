@@ -83,18 +83,6 @@ TEST_F(DialRulesItem, LengthsAndAreaCodes) {
     EXPECT_TRUE(rules.getAreaCodesList().empty());
 }
 
-TEST_F(DialRulesItem, LocalAndExceptionNumbers) {
-    KesDialRulesItem rules("FR", "0", 4, "1", 7, "00");
-    EXPECT_TRUE(rules.isLocalNumber("123"));
-    EXPECT_FALSE(rules.isLocalNumber("1234"));
-    EXPECT_TRUE(rules.isExceptionNumber("0012345")) << "length plays no part";
-    EXPECT_FALSE(rules.isExceptionNumber("0100000"));
-    EXPECT_FALSE(rules.isExceptionNumber("0"));
-    KesDialRulesItem none("FR", "0", 0, "1", 0, "");
-    EXPECT_FALSE(none.isLocalNumber(""));
-    EXPECT_FALSE(none.isExceptionNumber("001"));
-}
-
 TEST_F(DialRulesItem, ToStringEndsWithNul) {
     KesDialRulesItem rules("FR", "0", 4, "1, 2", 3, "00");
     std::string expected = "CountryCode : 'FR', External Prefix : '0', Local length : 4, AreaCode : '1', "

@@ -127,10 +127,6 @@ TEST_F(NumberingConfig, BrokenFilesLoadWhatTheyCan) {
     EXPECT_TRUE(testhost::logged("ERROR N9numbering18KesNumberingConfigE - "
                                  "KesNumberingConfig::loadDialingRules Exception : Not found"));
     EXPECT_EQ(config->getCountryCodeFromNumber("27"), "");
-
-    config = load(std::string("\x01\x02garbage without separator\n= 12\nFR = 33:00:EF:0F::France:P\n") +
-                  std::string(100000, 'x') + " = " + std::string(100000, '9') + "\n");
-    EXPECT_EQ(config->getCountryNumber("FR"), "33");
 }
 
 TEST_F(NumberingConfig, MaskKeys) {

@@ -1,5 +1,5 @@
-// The edges of two decisions the conversions share: where the outside-line prefix starts to be
-// needed, and what a conversion does with an error that is not the one it expects.
+// What a conversion does with an error that is not the one it expects. (Where the outside-line
+// prefix starts to be needed is pinned by the dialable number tests: one decision serves both.)
 
 #include "FacadeWorld.h"
 
@@ -9,31 +9,11 @@
 
 using namespace numbering;
 using facadeworld::FacadeTest;
-using facadeworld::stockholm;
 using facadeworld::withDialRules;
 
 namespace {
 
-using DecisionEdges = FacadeTest;
-
-TEST_F(DecisionEdges, OutsideLinePrefixStartsAtTheLocalNumberLength) {
-    // A Stockholm national number of seven characters, around local number lengths of seven.
-    struct Case {
-        int localNbLength;
-        bool prefixNeeded;
-        std::string canonical; // a number that needs no outside line is not read as national
-    };
-    const std::vector<Case> cases = {
-        {6, true, "+46 (0) 812345"},
-        {7, true, "+46 (0) 812345"},
-        {8, false, "0812345"},
-    };
-    for (const Case& c : cases) {
-        KesDialRulesItem rules = stockholm(c.localNbLength);
-        EXPECT_EQ(facade->isPrefixNeeded(&rules, "0812345"), c.prefixNeeded) << c.localNbLength;
-        EXPECT_EQ(facade->makeCanonicalNumber(&rules, "0812345", ""), c.canonical) << c.localNbLength;
-    }
-}
+using UnexpectedErrors = FacadeTest;
 
 /// Stockholm rules whose look-ups fail with `Error`, which no conversion expects.
 template <class Error> class FailingRules : public KesDialRulesItem {
@@ -45,7 +25,7 @@ public:
 
 struct NotAStandardError {};
 
-TEST_F(DecisionEdges, AnyOtherErrorGivesAnEmptyResultAndOneErrorLine) {
+TEST_F(UnexpectedErrors, AnyOtherErrorGivesAnEmptyResultAndOneErrorLine) {
     FailingRules<std::bad_alloc> outOfMemory;
     FailingRules<NotAStandardError> unknown;
     struct Case {
