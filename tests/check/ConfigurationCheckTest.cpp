@@ -3,7 +3,6 @@
 #include "TestConfig.h"
 
 #include "numbering/KesConfigurationCheck.h"
-#include "numbering/KesNumberingConfig.h"
 
 #include <Poco/AutoPtr.h>
 #include <Poco/Exception.h>
@@ -250,21 +249,4 @@ TEST_F(ConfigurationCheck, ForeseesWhereTheReaderGivesUpOnReferences) {
             checkFails = checkFails || finding.message.find("k0 cannot be read") != std::string::npos;
         EXPECT_EQ(checkFails, readerFails) << depth << " levels";
     }
-}
-
-TEST_F(ConfigurationCheck, ChangesNothingAndLeavesTheLoadedConfigurationAlone) {
-    testconfig::write(RULES_FILE, RULES + "fr=33:00:EF\n");
-    const auto modified = [] {
-        struct stat rules;
-        ::stat((testconfig::directory() + RULES_FILE).c_str(), &rules);
-        return rules.st_mtime;
-    };
-    KesNumberingConfig* loaded = KesNumberingConfig::getInstance();
-    const std::string before = loaded->getCountryNumber("DE");
-    const auto written = modified();
-    EXPECT_EQ(KesConfigurationCheck::check(testconfig::directory()).status(), 2);
-    EXPECT_EQ(modified(), written);
-    EXPECT_EQ(KesNumberingConfig::instance, loaded);
-    EXPECT_EQ(loaded->getCountryNumber("DE"), before);
-    testconfig::reload();
 }

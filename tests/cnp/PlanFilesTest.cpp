@@ -70,14 +70,6 @@ TEST_F(PlanFiles, MissingInstallationFileFallsBackToTheDefaultWithThePlansText) 
     }
 }
 
-TEST_F(PlanFiles, InstallationFileIsNeverMergedWithTheDefault) {
-    writePlanFile("61", "1", {"2"});
-    testconfig::write(defaultFile("61"), "Translate=0\n" + areaCodeLines({"2", "3"}));
-    Poco::AutoPtr<KesAreaCodePlan> plan = filePlan("61");
-    EXPECT_EQ(plan->areaCodeCount, 1);
-    EXPECT_TRUE(plan->translate);
-}
-
 // An installation file that is a directory cannot be opened: the plan's other text, then the default.
 TEST_F(PlanFiles, UnopenableFilesGiveThePlansOtherTextAndTheDefault) {
     for (const FilePlan& p : FILE_PLANS) {
