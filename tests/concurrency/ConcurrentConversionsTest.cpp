@@ -20,7 +20,6 @@
 #include <chrono>
 #include <filesystem>
 #include <fstream>
-#include <iostream>
 #include <mutex>
 #include <random>
 #include <string>
@@ -226,7 +225,6 @@ TEST(ConcurrentConversions, ReloadsUnderLoadNeverMixTwoConfigurations) {
     EXPECT_TRUE(unexpected.empty()) << unexpected.size()
                                     << " mixed results, the first: " << unexpected.front();
     EXPECT_GT(conversions.load(), THREADS);
-    std::cout << conversions.load() << " numbers converted during 100 reloads\n";
     EXPECT_EQ(convertAll(), inB) << "the last reload read the second directory";
     KesNumberingRules::reload(std::string()); // back to the directory of the start
     expectEverythingReleased();

@@ -38,14 +38,12 @@ TEST_F(NumberingConfig, FieldSplitting) {
                                       "CC = 35:00:EF:0F:0F:Long:P:extra:more\n" // extra fields ignored
                                       "DD = 44::EF:0F::Empty:P\n");             // an empty field
     EXPECT_EQ(config->getCountryCodeFromNumber("33"), "FR");
-    EXPECT_EQ(config->getCountryCodeFromName("France"), "FR");
     EXPECT_EQ(config->getCountryRule("FR")->getLongDistPrefix(), "0");
     EXPECT_EQ(config->getCountryCodeFromNumber("11"), "") << "not primary";
     EXPECT_EQ(config->extractCountryNumber("11234"), "");
     EXPECT_EQ(config->getCountryNumber("AA"), "11");
     EXPECT_EQ(config->getCountryRule("AA")->getLocalRule(), "G");
     EXPECT_EQ(config->getCountryRule("BB")->getInternatRule(), "");
-    EXPECT_EQ(config->getCountryName("BB"), "");
     EXPECT_EQ(config->getCountryCodeFromNumber("35"), "CC");
     EXPECT_EQ(config->getCountryRule("DD")->getInternatPfx(), "");
     EXPECT_EQ(config->getCountryRule("DD")->getInternatRule(), "EF");

@@ -55,18 +55,18 @@ TEST(Logger, HostDefinitionsWinOverTheLibraryFallbacks) {
 }
 
 TEST(ValueTypes, OriginsAreNumberedInDeclarationOrder) {
-    const KesEnumOrigin* origins[] = {&KesEnumOrigin::ANY, &KesEnumOrigin::INTERNATIONAL,
-                                      &KesEnumOrigin::NATIONAL, &KesEnumOrigin::PRIVATE_1,
-                                      &KesEnumOrigin::PUBLIC_1};
-    const char* names[] = {"Any", "International", "National", "Private", "Public"};
+    const std::pair<const KesEnumOrigin*, const char*> origins[] = {
+        {&KesEnumOrigin::ANY, "Any"},
+        {&KesEnumOrigin::INTERNATIONAL, "International"},
+        {&KesEnumOrigin::NATIONAL, "National"},
+        {&KesEnumOrigin::PRIVATE_1, "Private"},
+        {&KesEnumOrigin::PUBLIC_1, "Public"}};
     for (int i = 0; i < 5; ++i) {
-        EXPECT_EQ(origins[i]->id, i + 1);
-        EXPECT_EQ(origins[i]->name, names[i]);
+        EXPECT_EQ(origins[i].first->id, i + 1);
+        EXPECT_EQ(origins[i].first->name, origins[i].second);
     }
     EXPECT_TRUE(KesEnumOrigin::ANY < KesEnumOrigin::PUBLIC_1);
-    // Two values compare by id, never by name.
-    TypesafeEnum first("Same"), second("Same");
-    EXPECT_TRUE(first != second);
+    EXPECT_TRUE(TypesafeEnum("Same") != TypesafeEnum("Same")) << "compared by id, never by name";
 }
 
 // The unsupported-country exception derives from no standard exception: a catch of std::exception

@@ -21,21 +21,8 @@ namespace {
 const char* const COUNTRIES[] = {"FR", "DE", "AT", "NL", "BE", "GB", "IE", "AU", "AR",
                                  "MX", "CO", "RU", "KZ", "US", "CH", "NZ", "IT", "XA"};
 
-const char* const NUMBERS[] = {"01 23 45 67 89",
-                               "+49 (89) 123456",
-                               "0111543215678",
-                               "033001234567",
-                               "0212345678",
-                               "84951234567",
-                               "+7 495 1234567",
-                               "5551234",
-                               "+54 9 (11) 43215678",
-                               "0044 20 7946 0958",
-                               "*12#",
-                               "   ",
-                               "+",
-                               "(((((",
-                               "12***34"};
+const char* const NUMBERS[] = {"01 23 45 67 89", "+49 (89) 123456", "0111543215678", "033001234567",
+                               "84951234567",    "5551234",         "*12#",          "+"};
 
 /// Every public conversion for every installation the rules accept, plus one built without checks.
 /// Returns how many conversions gave a non-empty answer.
