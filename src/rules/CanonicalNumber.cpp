@@ -50,26 +50,32 @@ struct NumberKind {
     }
 };
 
+/// Collects the digits and service characters of `number` into `out`, dropping presentation
+/// characters, and sets `serviceCode` at a service character. False at any other character.
+bool collectPhoneCharacters(std::string_view number, TextCollector& out, bool& serviceCode) {
+    for (char c : number) {
+        if (isDigit(c)) {
+            out.push(c);
+        } else if (isServiceCharacter(c)) {
+            out.push(c);
+            serviceCode = true;
+        } else if (!isFormatCharacter(c)) {
+            return false;
+        }
+    }
+    return true;
+}
+
 /// The digits and service characters of a number not in international form; the scan ends at a
 /// "|". Sets `serviceCode` when a service character is met; any character that is neither a digit
 /// nor a presentation character rejects the number.
 std::string cleanNationalNumber(std::string_view strValid, bool& serviceCode) {
     TextCollector digits;
-    const std::string_view::size_type end = indexOf(strValid, '|');
-    const std::string_view::size_type length = end == std::string_view::npos ? strValid.size() : end;
-    for (std::string_view::size_type i = 0; i < length; ++i) {
-        const char c = strValid[i];
-        if (isDigit(c)) {
-            digits.push(c);
-        } else if (isServiceCharacter(c)) {
-            digits.push(c);
-            serviceCode = true;
-        } else if (!isFormatCharacter(c)) {
-            if (Logger::m_Traces)
-                KesNumberingRules::logger->debug("MakeCanonical : wrong character in number : " +
-                                                 std::string(strValid));
-            throw std::invalid_argument("'strPhoneNumber' parameter is not a phone number");
-        }
+    if (!collectPhoneCharacters(strValid.substr(0, indexOf(strValid, '|')), digits, serviceCode)) {
+        if (Logger::m_Traces)
+            KesNumberingRules::logger->debug("MakeCanonical : wrong character in number : " +
+                                             std::string(strValid));
+        throw std::invalid_argument("'strPhoneNumber' parameter is not a phone number");
     }
     return digits.str();
 }
@@ -150,11 +156,8 @@ void readInternationalForm(NumberKind& kind, std::string_view strValid) {
                                              std::string(countryNumber) + "'");
         return;
     }
-    TextCollector digits;
-    for (std::string_view::size_type i = countryNumber.size() + 1; i < strValid.size(); ++i)
-        if (isDigit(strValid[i]))
-            digits.push(strValid[i]);
-    std::string national = digits.str();
+    std::string national;
+    appendDigits(strValid.substr(countryNumber.size() + 1), national);
     kind.takeDestination(*countryCode);
     KesCountryRuleItem* countryRule = requireCountryRule(config, kind.countryCode);
     std::string noArea;
@@ -162,28 +165,17 @@ void readInternationalForm(NumberKind& kind, std::string_view strValid) {
                       ->makeLongDistDialableNumber(noArea, national, countryRule, kind.rules());
 }
 
-/// The digits and service characters of `number` into `result`, or nothing when it holds a
-/// character that is neither those nor a presentation character.
-void keepPhoneCharacters(std::string_view number, std::string& result) {
-    for (char c : number) {
-        if (isDigit(c) || isServiceCharacter(c)) {
-            result += c;
-        } else if (!isFormatCharacter(c)) {
-            result.clear();
-            return;
-        }
-    }
-}
-
 /// checkPhoneNumber: the digits and service characters of the number, or "" when it holds another
 /// character.
 std::string phoneCharactersOf(std::string_view strPhoneNumber) {
     std::string result;
+    TextCollector kept;
+    bool serviceCode = false;
     // The usual case, digits only, is the number itself.
     if (allDigits(strPhoneNumber))
         result.assign(strPhoneNumber);
-    else
-        keepPhoneCharacters(strPhoneNumber, result);
+    else if (collectPhoneCharacters(strPhoneNumber, kept, serviceCode))
+        result = kept.str();
     if (Logger::m_Traces)
         KesNumberingRules::logger->debug("checkPhoneNumber('" + std::string(strPhoneNumber) + "') returns '" +
                                          result + "'");
@@ -299,8 +291,11 @@ std::string KesNumberingRules::makeCanonicalNumber(KesDialRulesItem* myKesDialRu
         }
         std::string layout;
         const std::string_view strValid = validNumber(strPhoneNumber, layout);
-        const std::string_view strAreaCode = areaCodeOrNatPrefixOf(strValid);
         const bool internationalForm = firstCharacter(strValid) == '+';
+        // Only a number in international form keeps its area code; the others read it for the trace
+        // the conversion has always written.
+        const std::string_view strAreaCode =
+            internationalForm || Logger::m_Traces ? areaCodeOrNatPrefixOf(strValid) : std::string_view();
 
         NumberKind kind(myKesDialRulesItem);
         if (!tellKind(kind, strPhoneNumber, strValid, internationalForm))

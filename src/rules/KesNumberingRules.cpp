@@ -1,8 +1,6 @@
 #include "numbering/KesNumberingRules.h"
 
 #include "config/Configuration.h"
-#include "numbering/KesCNPManager.h"
-#include "numbering/KesDialableManager.h"
 #include "numbering/KesNumberingConfig.h"
 #include "numbering/Logger.h"
 
@@ -47,9 +45,7 @@ void KesNumberingRules::resetInstance() {
     if (Logger::m_Traces)
         logger->debug("Releasing resources");
     std::lock_guard<std::recursive_mutex> lock(Configuration::lifecycle());
-    // The caches hold plans and strategies built from the store's rules: they go first.
-    KesCNPManager::resetInstance();
-    KesDialableManager::resetInstance();
+    // The configuration drops its plan and strategy caches before the store they were built from.
     KesNumberingConfig::resetInstance();
     config = nullptr;
     facade.store(nullptr, std::memory_order_release);

@@ -33,6 +33,13 @@ std::string withExternalPrefix(KesNumberingRules& facade, KesDialRulesItem* rule
     return ext + dial;
 }
 
+/// The digits that dial `number` from the installation: its canonical form, dialled; "" when it has
+/// no canonical form.
+std::string dialledForm(KesNumberingRules& facade, KesDialRulesItem* rules, const std::string& number) {
+    const std::string canonical = facade.makeCanonicalNumber(rules, number, "", false);
+    return canonical.empty() ? canonical : facade.makeDialableNumber(rules, canonical);
+}
+
 bool containsServiceCharacter(const std::string& number) {
     return std::any_of(number.begin(), number.end(), isServiceCharacter);
 }
@@ -74,12 +81,8 @@ std::string KesNumberingRules::makePhoneNumber(KesDialRulesItem* myKesDialRulesI
         // Service codes such as "*12#" are never converted nor prefixed.
         if (special)
             return checkPhoneNumber(strPhoneNumber);
-        const std::string canonicalNumber =
-            makeCanonicalNumber(myKesDialRulesItem, strPhoneNumber, "", false);
-        if (canonicalNumber.empty())
-            return std::string();
         return withExternalPrefix(*this, myKesDialRulesItem, ext, hadPrefix,
-                                  makeDialableNumber(myKesDialRulesItem, canonicalNumber));
+                                  dialledForm(*this, myKesDialRulesItem, strPhoneNumber));
     });
 }
 
@@ -94,16 +97,10 @@ std::string KesNumberingRules::addExternalPrefix(KesDialRulesItem* myKesDialRule
             if (strPhoneNumber.at(0) != '+') // only white space: std::out_of_range
                 return checkPhoneNumber(strPhoneNumber);
         }
-        std::string dial;
-        if (startsWith(strPhoneNumber, '+')) {
-            const std::string canonicalNumber =
-                makeCanonicalNumber(myKesDialRulesItem, strPhoneNumber, "", false);
-            if (!canonicalNumber.empty())
-                dial = makeDialableNumber(myKesDialRulesItem, canonicalNumber);
-        } else {
-            // Not canonical: only checked, never converted.
-            dial = checkPhoneNumber(strPhoneNumber);
-        }
+        // What is not canonical is only checked, never converted.
+        std::string dial = startsWith(strPhoneNumber, '+')
+                               ? dialledForm(*this, myKesDialRulesItem, strPhoneNumber)
+                               : checkPhoneNumber(strPhoneNumber);
         return withExternalPrefix(*this, myKesDialRulesItem, ext, hadPrefix, std::move(dial));
     });
 }
