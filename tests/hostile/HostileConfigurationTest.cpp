@@ -1,51 +1,41 @@
 // Configuration files far larger than any real one: the library loads what it can and keeps
 // converting without taking the host down. (The property-file fuzzer feeds it broken ones.)
 #include "TestConfig.h"
-#include "TestHost.h"
 
 #include "numbering/KesClid.h"
 #include "numbering/KesDialRulesItem.h"
 #include "numbering/KesNumberingConfig.h"
 #include "numbering/KesNumberingRules.h"
-#include "numbering/KesUnsupportedCountryException.h"
 
 #include <gtest/gtest.h>
 
-#include <memory>
 #include <string>
 
 using namespace numbering;
 
 namespace {
 
-const char* const COUNTRIES[] = {"FR", "DE", "AT", "NL", "BE", "GB", "IE", "AU", "AR",
-                                 "MX", "CO", "RU", "KZ", "US", "CH", "NZ", "IT", "XA"};
+// Countries of the standard dialing rules, every one with a plan or a strategy of its own among them.
+const char* const COUNTRIES[] = {"FR", "DE", "AT", "NL", "BE", "GB", "IE", "AU",
+                                 "AR", "MX", "CO", "RU", "US", "CH", "NZ", "IT"};
 
 const char* const NUMBERS[] = {"01 23 45 67 89", "+49 (89) 123456", "0111543215678", "033001234567",
                                "84951234567",    "5551234",         "*12#",          "+"};
 
-/// Every public conversion for every installation the rules accept, plus one built without checks.
-/// Returns how many conversions gave a non-empty answer.
+/// Every public conversion at an installation in each country. Returns how many conversions gave a
+/// non-empty answer.
 int convertEverything() {
     KesNumberingRules* rules = KesNumberingRules::getInstance();
-    std::vector<std::unique_ptr<KesDialRulesItem>> sites;
-    sites.emplace_back(new KesDialRulesItem()); // "FR", whatever the rules say
-    sites.back()->setExtPrefix("0");
-    for (const char* country : COUNTRIES) {
-        try {
-            sites.emplace_back(new KesDialRulesItem(country, "0", 4, "11", 0, "00"));
-        } catch (const KesUnsupportedCountryException&) {
-        }
-    }
     int answers = 0;
-    for (auto& site : sites) {
+    for (const char* country : COUNTRIES) {
+        KesDialRulesItem site(country, "0", 4, "11", 0, "00");
         for (const char* number : NUMBERS) {
-            answers += !rules->makeCanonicalNumber(site.get(), number, "").empty();
-            answers += !rules->makeCanonicalNumber(site.get(), number, "", true).empty();
-            answers += !rules->makePhoneNumber(site.get(), number).empty();
-            answers += !rules->addExternalPrefix(site.get(), number).empty();
-            answers += !rules->makeGSMCanonicalNumber(site.get(), number, false).empty();
-            if (KesClid* clid = rules->makeClid(site.get(), number)) {
+            answers += !rules->makeCanonicalNumber(&site, number, "").empty();
+            answers += !rules->makeCanonicalNumber(&site, number, "", true).empty();
+            answers += !rules->makePhoneNumber(&site, number).empty();
+            answers += !rules->addExternalPrefix(&site, number).empty();
+            answers += !rules->makeGSMCanonicalNumber(&site, number, false).empty();
+            if (KesClid* clid = rules->makeClid(&site, number)) {
                 ++answers;
                 clid->release();
             }
@@ -54,19 +44,11 @@ int convertEverything() {
     return answers;
 }
 
-class HostileConfiguration : public ::testing::Test {
-protected:
-    void SetUp() override { testconfig::clearAll(); }
-    void TearDown() override {
-        testconfig::clearAll();
-        testconfig::reload();
-    }
-};
-
 } // namespace
 
 // A hundred thousand rows and area codes, then keys and values of a megabyte.
-TEST_F(HostileConfiguration, HugeFiles) {
+TEST(HostileConfiguration, HugeFiles) {
+    testconfig::clearAll();
     std::string rules(testconfig::STANDARD_DIALING_RULES);
     std::string areaCodes = "Translate=1\n";
     for (int i = 0; i < 100000; ++i) {
@@ -92,4 +74,6 @@ TEST_F(HostileConfiguration, HugeFiles) {
     testconfig::reload();
     EXPECT_GT(convertEverything(), 0);
     EXPECT_EQ(KesNumberingConfig::getInstance()->getCountryNumber("DE"), "49");
+    testconfig::clearAll();
+    testconfig::reload();
 }
