@@ -550,10 +550,10 @@ def example_numbers(facts):
 def sample_numbers(facts):
     """The sample that `numbering diff` converts when given no numbers: each country's example
     numbers in "+" form, then as dialled inside the country (behind its national prefix)."""
-    rows = sorted(facts.countries, key=lambda r: r["iso2"])
-    numbers = ["+%s %s" % (row["calling_code"], row[kind]) for row in rows
-               for kind in ("fixed_example", "mobile_example")]
-    numbers += [row["national_prefix"] + row[kind] for row in rows for kind in ("fixed_example", "mobile_example")]
+    examples = [(row, row[kind]) for row in sorted(facts.countries, key=lambda r: r["iso2"])
+                for kind in ("fixed_example", "mobile_example") if row[kind]]
+    numbers = ["+%s %s" % (row["calling_code"], example) for row, example in examples]
+    numbers += [row["national_prefix"] + example for row, example in examples]
     return "\n".join(dict.fromkeys(numbers)) + "\n"
 
 
