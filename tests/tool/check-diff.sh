@@ -5,31 +5,7 @@
 set -u
 tool=$1
 data=$2
-failures=0
-tab=$'\t'
-work=$(mktemp -d)
-trap 'rm -rf "$work"' EXIT
-
-# run [--stdin TEXT] ARGS...: runs the tool; sets out, err and status.
-run() {
-    local input=""
-    if [ "${1:-}" = "--stdin" ]; then
-        input=$2
-        shift 2
-    fi
-    out=$(printf '%s' "$input" | "$tool" "$@" 2>"$work/err")
-    status=$?
-    err=$(cat "$work/err")
-}
-
-# expect NAME STATUS STDOUT STDERR: exact exit status and output.
-expect() {
-    if [ "$status" != "$2" ] || [ "$out" != "$3" ] || [ "$err" != "$4" ]; then
-        printf 'FAIL: %s\n  exit status: %s (wanted %s)\n  stdout: %s\n  stderr: %s\n' "$1" "$status" "$2" \
-            "$out" "$err"
-        failures=$((failures + 1))
-    fi
-}
+. "$(dirname "$0")/common.sh"
 
 # configuration NAME [FILE LINE]: a copy of the shipped files, LINE in place of the row of its key
 # in FILE ("KEY=" only: the row removed).
@@ -73,8 +49,4 @@ run diff "$data"
 [ "$status" = 2 ] && [[ "$err" == *"diff wants two configuration directories"* ]] ||
     expect "one directory only" 2 "" "diff wants two configuration directories"
 
-if [ "$failures" -ne 0 ]; then
-    echo "$failures check(s) failed"
-    exit 1
-fi
-echo "all checks passed"
+finish

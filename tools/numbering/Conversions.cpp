@@ -33,7 +33,10 @@ bool isBlank(std::string_view text) {
     return text.find_first_not_of(BLANKS) == std::string_view::npos;
 }
 
-std::unique_ptr<KesDialRulesItem> makeInstallation(const Options& options) {
+namespace {
+
+/// The installation the options describe; std::invalid_argument with a message for the user.
+std::unique_ptr<KesDialRulesItem> installationOf(const Options& options) {
     const std::string& country = options.country;
     const bool letters = country.size() == 2 && std::isalpha(static_cast<unsigned char>(country[0])) &&
                          std::isalpha(static_cast<unsigned char>(country[1]));
@@ -52,6 +55,17 @@ std::unique_ptr<KesDialRulesItem> makeInstallation(const Options& options) {
     } catch (const KesUnsupportedCountryException& e) { // not a std::exception
         throw std::invalid_argument(std::string(e.what()) +
                                     " (configuration: " + KesNumberingConfig::configDirectory() + ")");
+    }
+}
+
+} // namespace
+
+std::unique_ptr<KesDialRulesItem> makeInstallation(const Options& options) {
+    try {
+        return installationOf(options);
+    } catch (const std::invalid_argument& e) {
+        std::cerr << "numbering: " << e.what() << "\n";
+        return nullptr;
     }
 }
 
@@ -119,13 +133,9 @@ std::string whyNotConverted(const Options& options, const std::string& number) {
 
 int convertNumbers(const Options& options) {
     KesNumberingRules* rules = KesNumberingRules::getInstance();
-    std::unique_ptr<KesDialRulesItem> installation;
-    try {
-        installation = makeInstallation(options);
-    } catch (const std::invalid_argument& e) {
-        std::cerr << "numbering: " << e.what() << "\n";
+    std::unique_ptr<KesDialRulesItem> installation = makeInstallation(options);
+    if (!installation)
         return 2;
-    }
 
     Output output;
     int failures = 0;

@@ -19,7 +19,7 @@ extern bool convertingNumbers;
 /// Whether `text` holds nothing but what the library trims from a number.
 bool isBlank(std::string_view text);
 
-/// The installation the options describe; std::invalid_argument with a message for the user.
+/// The installation the options describe, or null when there is none (said on standard error).
 std::unique_ptr<numbering::KesDialRulesItem> makeInstallation(const Options& options);
 
 /// One conversion by `command` (canonical, dial, clid, gsm, format, decompose); an empty answer

@@ -14,7 +14,6 @@
 #include <fstream>
 #include <iostream>
 #include <memory>
-#include <stdexcept>
 #include <string_view>
 #include <unistd.h>
 #include <vector>
@@ -77,13 +76,9 @@ bool convertSample(const std::string& directory, const Options& options,
                    const std::vector<std::string>& numbers, Take take) {
     KesNumberingRules::reload(directory);
     KesNumberingRules* rules = KesNumberingRules::getInstance();
-    std::unique_ptr<KesDialRulesItem> installation;
-    try {
-        installation = makeInstallation(options);
-    } catch (const std::invalid_argument& e) {
-        std::cerr << "numbering: " << e.what() << "\n";
+    std::unique_ptr<KesDialRulesItem> installation = makeInstallation(options);
+    if (!installation)
         return false;
-    }
     convertingNumbers = true;
     for (std::size_t number = 0; number < numbers.size(); ++number)
         for (std::size_t command = 0; command < COMMANDS.size(); ++command) {
