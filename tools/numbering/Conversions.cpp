@@ -2,6 +2,8 @@
 // standard input, and a message of the tool's own for every number that cannot be converted.
 #include "Conversions.h"
 
+#include "Output.h"
+
 #include "numbering/KesClid.h"
 #include "numbering/KesDialRulesItem.h"
 #include "numbering/KesNumberingConfig.h"
@@ -9,16 +11,12 @@
 #include "numbering/KesUnsupportedCountryException.h"
 
 #include <cctype>
-#include <cerrno>
 #include <cstdio>
-#include <cstdlib>
-#include <cstring>
 #include <iostream>
 #include <memory>
 #include <stdexcept>
 #include <string>
 #include <string_view>
-#include <unistd.h>
 
 using namespace numbering;
 
@@ -26,8 +24,19 @@ bool convertingNumbers = false;
 
 namespace {
 
+/// What the library trims from both ends of a number.
+const char* const BLANKS = " \t\n\v\f\r";
+
+} // namespace
+
+bool isBlank(std::string_view text) {
+    return text.find_first_not_of(BLANKS) == std::string_view::npos;
+}
+
+namespace {
+
 /// The installation the options describe; std::invalid_argument with a message for the user.
-std::unique_ptr<KesDialRulesItem> makeInstallation(const Options& options) {
+std::unique_ptr<KesDialRulesItem> installationOf(const Options& options) {
     const std::string& country = options.country;
     const bool letters = country.size() == 2 && std::isalpha(static_cast<unsigned char>(country[0])) &&
                          std::isalpha(static_cast<unsigned char>(country[1]));
@@ -49,10 +58,19 @@ std::unique_ptr<KesDialRulesItem> makeInstallation(const Options& options) {
     }
 }
 
-/// One conversion; an empty answer means the library could not convert the number.
-std::string convert(const Options& options, KesNumberingRules* rules, KesDialRulesItem* installation,
-                    const std::string& number) {
-    const std::string& command = options.command;
+} // namespace
+
+std::unique_ptr<KesDialRulesItem> makeInstallation(const Options& options) {
+    try {
+        return installationOf(options);
+    } catch (const std::invalid_argument& e) {
+        std::cerr << "numbering: " << e.what() << "\n";
+        return nullptr;
+    }
+}
+
+std::string convert(const std::string& command, const Options& options, KesNumberingRules* rules,
+                    KesDialRulesItem* installation, const std::string& number) {
     if (command == "canonical")
         return rules->makeCanonicalNumber(installation, number, options.pattern);
     if (command == "dial")
@@ -76,6 +94,8 @@ std::string convert(const Options& options, KesNumberingRules* rules, KesDialRul
     return presented;
 }
 
+namespace {
+
 /// The number between quotes, its control characters shown as "\xNN" so that none reaches the terminal.
 std::string quoted(std::string_view number) {
     std::string text = "'";
@@ -89,13 +109,6 @@ std::string quoted(std::string_view number) {
         }
     }
     return text + "'";
-}
-
-/// What the library trims from both ends of a number.
-const char* const BLANKS = " \t\n\v\f\r";
-
-bool isBlank(std::string_view text) {
-    return text.find_first_not_of(BLANKS) == std::string_view::npos;
 }
 
 /// Why the library gave no result for `number`, as far as the tool can tell.
@@ -116,51 +129,13 @@ std::string whyNotConverted(const Options& options, const std::string& number) {
            options.country + "; --trace shows why)";
 }
 
-/// Standard output in large blocks, written when full and at the end; line by line only to a
-/// terminal, where someone waits for each answer.
-class Output {
-public:
-    Output() : interactive(isatty(STDOUT_FILENO) == 1) { text.reserve(CAPACITY); }
-
-    /// Appends `result` and the end of the line (after `input` and a tab in batch mode).
-    void line(const std::string* input, const std::string& result) {
-        if (input != nullptr) {
-            text += *input;
-            text += '\t';
-        }
-        text += result;
-        text += '\n';
-        if (interactive || text.size() >= CAPACITY)
-            flush();
-    }
-
-    /// Writes what is held; a failed write (a full disk, a closed pipe) ends the tool.
-    void flush() {
-        if (!text.empty() && std::fwrite(text.data(), 1, text.size(), stdout) != text.size()) {
-            std::fprintf(stderr, "numbering: cannot write the results: %s\n", std::strerror(errno));
-            std::exit(2);
-        }
-        std::fflush(stdout);
-        text.clear();
-    }
-
-private:
-    static constexpr std::size_t CAPACITY = 1 << 16;
-    const bool interactive;
-    std::string text;
-};
-
 } // namespace
 
 int convertNumbers(const Options& options) {
     KesNumberingRules* rules = KesNumberingRules::getInstance();
-    std::unique_ptr<KesDialRulesItem> installation;
-    try {
-        installation = makeInstallation(options);
-    } catch (const std::invalid_argument& e) {
-        std::cerr << "numbering: " << e.what() << "\n";
+    std::unique_ptr<KesDialRulesItem> installation = makeInstallation(options);
+    if (!installation)
         return 2;
-    }
 
     Output output;
     int failures = 0;
@@ -171,7 +146,7 @@ int convertNumbers(const Options& options) {
         if (!(batch && isBlank(number))) { // a blank line in a batch keeps its place, with no result
             convertingNumbers = true;
             try {
-                result = convert(options, rules, installation.get(), number);
+                result = convert(options.command, options, rules, installation.get(), number);
             } catch (const std::exception&) {
                 // only an empty number gets this far: whyNotConverted says so
             }
@@ -183,7 +158,10 @@ int convertNumbers(const Options& options) {
                 std::cerr << "numbering: " << where << whyNotConverted(options, number) << "\n";
             }
         }
-        output.line(batch ? &number : nullptr, result);
+        if (batch)
+            output.line({number, result});
+        else
+            output.line({result});
     };
     if (batch) {
         std::ios::sync_with_stdio(false);

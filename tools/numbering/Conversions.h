@@ -3,9 +3,29 @@
 
 #include "Options.h"
 
+#include <memory>
+#include <string>
+#include <string_view>
+
+namespace numbering {
+class KesDialRulesItem;
+class KesNumberingRules;
+} // namespace numbering
+
 /// Set while numbers are converted: the tool then says in its own words which number failed, and
 /// the library's error line about it shows only with --trace.
 extern bool convertingNumbers;
+
+/// Whether `text` holds nothing but what the library trims from a number.
+bool isBlank(std::string_view text);
+
+/// The installation the options describe, or null when there is none (said on standard error).
+std::unique_ptr<numbering::KesDialRulesItem> makeInstallation(const Options& options);
+
+/// One conversion by `command` (canonical, dial, clid, gsm, format, decompose); an empty answer
+/// means the library could not convert the number.
+std::string convert(const std::string& command, const Options& options, numbering::KesNumberingRules* rules,
+                    numbering::KesDialRulesItem* installation, const std::string& number);
 
 /// Runs a conversion command on the numbers of the command line, or in batch on every line of
 /// standard input; returns the exit status (0 all converted, 1 some failed, 2 no installation).

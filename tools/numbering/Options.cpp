@@ -18,6 +18,10 @@ const char* const USAGE =
     "  gsm         number -> compact international form (+ and digits)\n"
     "  format      canonical number -> laid out with --pattern or the country's mask\n"
     "  decompose   canonical number -> country number, area code, subscriber number (tab-separated)\n"
+    "  diff OLD_DIR NEW_DIR\n"
+    "              canonical, dial, clid and gsm under two configuration directories -> one line for\n"
+    "              each result that differs: input, command, old result, new result (tab-separated);\n"
+    "              without numbers, the shipped sample (exit status 0 same, 1 different, 2 error)\n"
     "  check       configuration files -> what the library would make of them, as file:line: severity:\n"
     "              message (exit status 0 clean or notes only, 1 warnings, 2 errors); takes no number\n"
     "\n"
@@ -96,14 +100,21 @@ Options parseOptions(int argc, char** argv) {
     if (positional.empty())
         throw std::invalid_argument("no command given");
     options.command = positional.front();
-    static const char* const commands[] = {"canonical", "dial",      "clid", "gsm",
-                                           "format",    "decompose", "check"};
+    static const char* const commands[] = {"canonical", "dial",      "clid",  "gsm",
+                                           "format",    "decompose", "check", "diff"};
     bool known = false;
     for (const char* command : commands)
         known = known || options.command == command;
     if (!known)
         throw std::invalid_argument("unknown command '" + options.command + "'");
-    options.numbers.assign(positional.begin() + 1, positional.end());
+    auto numbers = positional.begin() + 1;
+    if (options.command == "diff") {
+        if (positional.size() < 3)
+            throw std::invalid_argument("diff wants two configuration directories: diff OLD_DIR NEW_DIR");
+        options.oldDir = *numbers++;
+        options.newDir = *numbers++;
+    }
+    options.numbers.assign(numbers, positional.end());
     if (options.command == "check" && !options.numbers.empty())
         throw std::invalid_argument("check takes no number");
     return options;

@@ -16,6 +16,8 @@ struct Options {
     std::string exceptBegin;
     std::string pattern;
     std::string configDir; // empty: NUMBERING_CONFIG_DIR if set, else the shipped configuration
+    std::string oldDir;    // the two configurations that diff compares
+    std::string newDir;
     bool trace = false;
     bool help = false;
     bool version = false;

@@ -1,6 +1,7 @@
 // numbering: runs the library's conversions from the command line.
 #include "Check.h"
 #include "Conversions.h"
+#include "Diff.h"
 #include "Options.h"
 
 #include "numbering/KesNumberingConfig.h"
@@ -47,6 +48,12 @@ std::string shippedConfiguration() {
     return NUMBERING_SOURCE_DATA_DIR;
 }
 
+std::string withSlash(std::string directory) {
+    if (!directory.empty() && directory.back() != '/')
+        directory += '/';
+    return directory;
+}
+
 // The directory named on the command line, else NUMBERING_CONFIG_DIR, else the shipped configuration.
 std::string configurationDirectory(const Options& options) {
     const char* current = std::getenv("NUMBERING_CONFIG_DIR");
@@ -55,9 +62,16 @@ std::string configurationDirectory(const Options& options) {
     std::string wanted = options.configDir;
     if (wanted.empty())
         wanted = current != nullptr ? current : shippedConfiguration();
-    if (!wanted.empty() && wanted.back() != '/')
-        wanted += '/';
-    return wanted;
+    return withSlash(wanted);
+}
+
+// Without dialing rules every country would be reported as unsupported: name the real cause.
+bool hasDialingRules(const std::string& directory) {
+    if (isFile(directory + "dialingrules.properties") ||
+        isFile(directory + "dialingrules_default.properties"))
+        return true;
+    std::cerr << "numbering: no dialing rules in " << directory << "\n";
+    return false;
 }
 
 } // namespace
@@ -79,15 +93,17 @@ int main(int argc, char** argv) {
         return 0;
     }
     Logger::m_Traces = options.trace;
+    if (options.command == "diff") {
+        const std::string oldDirectory = withSlash(options.oldDir), newDirectory = withSlash(options.newDir);
+        if (!hasDialingRules(oldDirectory) || !hasDialingRules(newDirectory))
+            return 2;
+        return runDiff(options, oldDirectory, newDirectory, shippedConfiguration() + "sample_numbers.txt");
+    }
     const std::string directory = configurationDirectory(options);
     if (options.command == "check")
         return runCheck(directory);
-    // Without dialing rules every country would be reported as unsupported: name the real cause.
-    if (!isFile(directory + "dialingrules.properties") &&
-        !isFile(directory + "dialingrules_default.properties")) {
-        std::cerr << "numbering: no dialing rules in " << directory << "\n";
+    if (!hasDialingRules(directory))
         return 2;
-    }
     KesNumberingRules::reload(directory);
 
     return convertNumbers(options);
