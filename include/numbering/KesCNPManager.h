@@ -21,13 +21,15 @@ template <class Value> class TextKeyMap;
 /// The cache of country plans, keyed by the upper-case country code ("DE"), one for each loaded
 /// configuration. A cached plan, or a country known to have none, is found without a lock; the
 /// first look-up of a country builds its plan (and reads its file) once, under the manager's mutex.
-/// A country without a plan is remembered and never retried until the configuration is reloaded.
+/// A country without a plan is remembered and never retried for the life of the manager, even if
+/// the configuration store is reset: only resetInstance() or a reload retries it.
 class NUMBERING_API KesCNPManager {
 public:
     /// The cache of the configuration in use (see KesNumberingConfig::getInstance()); valid until
     /// the first reload after the call has completed.
     static KesCNPManager* getInstance();
-    /// Empties the current configuration's cache (only when no conversion runs).
+    /// Destroys the current configuration's plan cache, its plans and its memory of countries
+    /// without a plan; the store and the strategy cache stay. Only when no conversion runs.
     static void resetInstance();
 
     virtual ~KesCNPManager();

@@ -25,7 +25,8 @@ public:
     /// The cache of the configuration in use (see KesNumberingConfig::getInstance()); valid until
     /// the first reload after the call has completed.
     static KesDialableManager* getInstance();
-    /// Empties the current configuration's cache (only when no conversion runs).
+    /// Destroys the current configuration's strategy cache and its strategies; the store and the
+    /// plan cache stay. Only when no conversion runs.
     static void resetInstance();
 
     virtual ~KesDialableManager();

@@ -32,8 +32,9 @@ public:
     /// out (getCountryRule, getCountryList), it stays valid until the first reload after the call
     /// has completed.
     static KesNumberingConfig* getInstance();
-    /// Destroys the current store with the plan and strategy caches built on it; the next
-    /// getInstance() reads every file again. Only when no conversion runs (see KesNumberingRules::reload).
+    /// Destroys the current store alone: the plan and strategy caches, and the pointers a host holds
+    /// to them, stay. The next getInstance() reads the store's files again, from disk. Only when no
+    /// conversion runs (see KesNumberingRules::reload).
     static void resetInstance();
 
     virtual ~KesNumberingConfig();

@@ -49,7 +49,10 @@ public:
     static void resetInstance();
     /// Re-reads every file, as resetInstance() followed by getInstance() would, while other threads
     /// convert: a conversion that started before finishes on the old configuration, one that starts
-    /// after sees the new one, and none mixes the two. Returns once the old configuration (store,
+    /// after sees the new one, and none mixes the two. Every file the new configuration reads (the
+    /// store's, each plan's, the Colombian operators') is read as it is at the reload, although plans
+    /// and strategies are still built, and log, on first use; two reloads at once are serialised, and
+    /// the last one wins. Returns once the old configuration (store,
     /// plans, strategies, trees) is freed, which waits for the conversions that still use it; the
     /// look-up pointers obtained before (getCountryRule, getCNP, getDialable, getCountryList, the
     /// store and caches themselves) are invalid from then on. Reloads may run on several threads;
