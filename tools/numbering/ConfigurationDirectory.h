@@ -1,0 +1,16 @@
+#ifndef NUMBERING_TOOLS_CONFIGURATIONDIRECTORY_H
+#define NUMBERING_TOOLS_CONFIGURATIONDIRECTORY_H
+
+#include "Options.h"
+
+#include <string>
+
+/// The shipped configuration: beside an installed tool, else in the source tree it was built from.
+std::string shippedConfiguration();
+
+/// The directory the conversions and the check read, with a final "/": --config-dir, else the
+/// library's own directory when it exists (so that a check of a live exchange checks what the
+/// exchange reads), else the shipped configuration, with a note on standard error.
+std::string configurationDirectory(const Options& options);
+
+#endif
