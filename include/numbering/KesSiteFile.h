@@ -35,13 +35,13 @@ public:
     static const char* const EXCEPT_LENGTH; ///< "except_length": the length of exception numbers
     static const char* const EXCEPT_BEGIN;  ///< "except_begin": their leading digits
 
-    std::string file; ///< where the settings were read; "" when they were not read from a file
-    std::string country;
-    std::string extPrefix;
-    std::string areaCodes;
-    int localLength = 0;
-    int exceptLength = 0;
-    std::string exceptBegin;
+    std::string file;        ///< where the settings were read; "" when they were not read from a file
+    std::string country;     ///< the installation's country (country)
+    std::string extPrefix;   ///< the outside-line prefix (ext_prefix)
+    std::string areaCodes;   ///< the own area codes, comma-separated (area_codes)
+    int localLength = 0;     ///< the local number length (local_length)
+    int exceptLength = 0;    ///< the exception number length (except_length)
+    std::string exceptBegin; ///< the leading digits of exception numbers (except_begin)
 
     /// Reads the site file at `path`. Throws std::runtime_error, whose message names the file and
     /// the reason, when it cannot be opened; what it holds is judged by check().
@@ -64,7 +64,7 @@ public:
     void forget(const std::string& key);
 
 private:
-    std::vector<KesConfigurationFinding> checkSettings() const;
+    void checkSettings(std::vector<KesConfigurationFinding>& findings) const;
 
     std::map<std::string, int> lines;                     // the line of each key read from the file
     std::vector<KesConfigurationFinding> readingFindings; // what read() could not take

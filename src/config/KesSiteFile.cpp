@@ -92,16 +92,16 @@ KesSiteFile KesSiteFile::read(const std::string& path) {
 }
 
 std::vector<KesConfigurationFinding> KesSiteFile::check() const {
-    std::vector<KesConfigurationFinding> findings = checkSettings();
-    findings.insert(findings.begin(), readingFindings.begin(), readingFindings.end());
-    std::stable_sort(
-        findings.begin(), findings.end(),
-        [](const KesConfigurationFinding& a, const KesConfigurationFinding& b) { return a.line < b.line; });
+    // Element by element: a copy of the whole vector would instantiate a standard library function
+    // whose name begins with the exported type, and the library's symbol list would export it.
+    std::vector<KesConfigurationFinding> findings;
+    for (const KesConfigurationFinding& finding : readingFindings)
+        findings.push_back(finding);
+    checkSettings(findings);
     return findings;
 }
 
-std::vector<KesConfigurationFinding> KesSiteFile::checkSettings() const {
-    std::vector<KesConfigurationFinding> findings;
+void KesSiteFile::checkSettings(std::vector<KesConfigurationFinding>& findings) const {
     auto error = [&](const std::string& key, const std::string& message) {
         const auto line = lines.find(key);
         findings.push_back({Severity::Error, file, key, line == lines.end() ? 0 : line->second, message});
@@ -132,28 +132,27 @@ std::vector<KesConfigurationFinding> KesSiteFile::checkSettings() const {
         error(COUNTRY,
               "the installation's country is an ISO 3166 code of two letters, such as FR or DE, not '" +
                   country + "'");
-        return findings;
+        return;
     }
     const std::string upper = Poco::toUpper(country);
     if (upper != country) {
         error(COUNTRY, "country codes are written in capitals: " + upper + ", not " + country);
-        return findings;
+        return;
     }
     KesNumberingConfig* config = KesNumberingConfig::getInstance();
     if (config == nullptr || !config->validCountryCode(country)) {
         error(COUNTRY, std::string(KesUnsupportedCountryException(country).what()) +
                            " by the dialing rules of " + KesNumberingConfig::configDirectory());
-        return findings;
+        return;
     }
     // Only a plan that reads area codes knows which exist; the others take any.
     auto* plan = dynamic_cast<KesAreaCodePlan*>(KesCNPManager::getInstance()->getCNP(country));
     if (plan == nullptr || plan->areaCodeCount == 0)
-        return findings;
+        return;
     for (const std::string& code : codes)
         if (firstNonDigit(code) == std::string::npos && plan->areaCodeTree->extractAreaCode(code) != code)
             error(AREA_CODES, "the area code '" + code + "' is not one the plan of " + country +
                                   " knows: local numbers would be placed in an area that does not exist");
-    return findings;
 }
 
 std::unique_ptr<KesDialRulesItem> KesSiteFile::makeDialRulesItem() const {

@@ -39,6 +39,11 @@ std::string shippedConfiguration() {
     return NUMBERING_SOURCE_DATA_DIR;
 }
 
+bool holdsDialingRules(const std::string& directory) {
+    return isReadable(directory + "dialingrules.properties") ||
+           isReadable(directory + "dialingrules_default.properties");
+}
+
 std::string configurationDirectory(const Options& options) {
     if (!options.configDir.empty())
         return withSlash(options.configDir);

@@ -13,4 +13,8 @@ std::string shippedConfiguration();
 /// exchange reads), else the shipped configuration, with a note on standard error.
 std::string configurationDirectory(const Options& options);
 
+/// Whether `directory` holds dialing rules, the installation file or its default: without them the
+/// library would call every country unsupported.
+bool holdsDialingRules(const std::string& directory);
+
 #endif

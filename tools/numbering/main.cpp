@@ -5,7 +5,6 @@
 #include "Init.h"
 #include "Options.h"
 
-#include "numbering/KesNumberingConfig.h"
 #include "numbering/KesNumberingRules.h"
 #include "numbering/Logger.h"
 #include "numbering/Version.h"
@@ -14,7 +13,6 @@
 #include <cstring>
 #include <iostream>
 #include <string>
-#include <unistd.h>
 
 using namespace numbering;
 
@@ -26,14 +24,6 @@ void FlogWrite(const char* text, short) {
     if (Logger::m_Traces || (!convertingNumbers && std::strncmp(text, "ERROR ", 6) == 0))
         std::fprintf(stderr, "%s\n", text);
 }
-
-namespace {
-
-bool isFile(const std::string& path) {
-    return access(path.c_str(), R_OK) == 0;
-}
-
-} // namespace
 
 int main(int argc, char** argv) {
     Options options;
@@ -58,8 +48,7 @@ int main(int argc, char** argv) {
     if (options.command == "check")
         return runCheck(directory, options);
     // Without dialing rules every country would be reported as unsupported: name the real cause.
-    if (!isFile(directory + "dialingrules.properties") &&
-        !isFile(directory + "dialingrules_default.properties")) {
+    if (!holdsDialingRules(directory)) {
         std::cerr << "numbering: no dialing rules in " << directory << "\n";
         return 2;
     }
