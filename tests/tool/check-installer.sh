@@ -4,27 +4,8 @@
 #   check-installer.sh <numbering executable>
 set -u
 tool=$1
-failures=0
-work=$(mktemp -d)
-trap 'rm -rf "$work"' EXIT
+source "$(dirname "$0")/running.sh"
 export NUMBERING_CONFIG_DIR=$work/library
-
-fail() {
-    printf 'FAIL: %s\n  exit status: %s\n  stdout: %s\n  stderr: %s\n' "$1" "$status" "$out" "$err"
-    failures=$((failures + 1))
-}
-
-# run [--stdin TEXT] ARGS...: runs the tool; sets out, err and status.
-run() {
-    local input=""
-    if [ "${1:-}" = "--stdin" ]; then
-        input=$2
-        shift 2
-    fi
-    out=$(printf '%s' "$input" | "$tool" "$@" 2>"$work/err")
-    status=$?
-    err=$(cat "$work/err")
-}
 
 # init: the library's directory is made and filled; a second run and a changed file keep what is there.
 run init
@@ -117,8 +98,4 @@ run --json check --site "$work/site.properties"
 run --json init
 [ "$(json command result | tr ';' '\n' | sort -u)" = "init|kept" ] || fail "--json init"
 
-if [ "$failures" -ne 0 ]; then
-    echo "$failures check(s) failed"
-    exit 1
-fi
-echo "all checks passed"
+finish

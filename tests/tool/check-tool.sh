@@ -5,35 +5,9 @@
 set -u
 tool=$1
 data=$2
-failures=0
 tab=$'\t'
-work=$(mktemp -d)
-trap 'rm -rf "$work"' EXIT
+source "$(dirname "$0")/running.sh"
 export NUMBERING_CONFIG_DIR=$data
-
-# run [--stdin TEXT] ARGS...: runs the tool; sets out, err and status.
-run() {
-    local input=""
-    if [ "${1:-}" = "--stdin" ]; then
-        input=$2
-        shift 2
-    fi
-    out=$(printf '%s' "$input" | "$tool" "$@" 2>"$work/err")
-    status=$?
-    err=$(cat "$work/err")
-}
-
-fail() {
-    printf 'FAIL: %s\n  exit status: %s\n  stdout: %s\n  stderr: %s\n' "$1" "$status" "$out" "$err"
-    failures=$((failures + 1))
-}
-
-# expect NAME STATUS STDOUT [STDERR]: exact exit status and output, standard error empty unless given.
-expect() {
-    if [ "$status" != "$2" ] || [ "$out" != "$3" ] || [ "$err" != "${4:-}" ]; then
-        fail "$1 (wanted status $2, stdout '$3' and stderr '${4:-}')"
-    fi
-}
 
 run -c FR canonical "01 23 45 67 89"
 expect "French installation, canonical" 0 "+33 (0) 1 23 45 67 89"
@@ -101,8 +75,4 @@ if [ ! -e "$library" ]; then
         "numbering: note: $library does not exist: reading the shipped configuration in $data (numbering init puts it where the library reads it)"
 fi
 
-if [ "$failures" -ne 0 ]; then
-    echo "$failures check(s) failed"
-    exit 1
-fi
-echo "all checks passed"
+finish
