@@ -30,9 +30,12 @@ add_custom_command(OUTPUT ${NUMBERING_DEBIAN_SYMBOLS}
           ${NUMBERING_DEBIAN_SYMBOLS}
   DEPENDS Numbering ${PROJECT_SOURCE_DIR}/packaging/debian/symbols.sh VERBATIM)
 add_custom_target(numbering_debian_symbols ALL DEPENDS ${NUMBERING_DEBIAN_SYMBOLS})
-install(FILES packaging/debian/runtime.lintian-overrides
-  DESTINATION ${CMAKE_INSTALL_DATAROOTDIR}/lintian/overrides RENAME ${CPACK_DEBIAN_RUNTIME_PACKAGE_NAME}
-  COMPONENT runtime EXCLUDE_FROM_ALL)
+foreach(component IN ITEMS runtime tool)
+  string(TOUPPER ${component} upper)
+  install(FILES packaging/debian/${component}.lintian-overrides
+    DESTINATION ${CMAKE_INSTALL_DATAROOTDIR}/lintian/overrides RENAME ${CPACK_DEBIAN_${upper}_PACKAGE_NAME}
+    COMPONENT ${component} EXCLUDE_FROM_ALL)
+endforeach()
 
 set(CPACK_GENERATOR DEB)
 set(CPACK_PACKAGE_NAME libnumbering)

@@ -39,8 +39,10 @@ install(CODE "
   file(INSTALL \${numbering_pc} DESTINATION \"\${CMAKE_INSTALL_PREFIX}/${CMAKE_INSTALL_LIBDIR}/pkgconfig\")"
   COMPONENT development)
 
+# The shipped configuration, with the sample of numbers that `numbering diff` converts by default.
 file(GLOB NUMBERING_SHIPPED_CONFIGURATION CONFIGURE_DEPENDS ${PROJECT_SOURCE_DIR}/data/*.properties)
-install(FILES ${NUMBERING_SHIPPED_CONFIGURATION} DESTINATION ${CMAKE_INSTALL_DATADIR}/numbering COMPONENT tool)
+install(FILES ${NUMBERING_SHIPPED_CONFIGURATION} ${PROJECT_SOURCE_DIR}/data/sample_numbers.txt
+  DESTINATION ${CMAKE_INSTALL_DATADIR}/numbering COMPONENT tool)
 
 install(FILES LICENSE NOTICE CHANGELOG.md DESTINATION ${CMAKE_INSTALL_DOCDIR} COMPONENT documentation)
 

@@ -4,7 +4,8 @@
 Input: the numbering facts directory, facts/ by default (tab-separated files: countries.tsv,
 formats.tsv, formats_inherited.tsv, areacodes/<cc>.tsv, areacodes/<cc>-nongeo.tsv,
 areacodes/57-carriers.tsv; its README.md names their sources).
-Output: the *_default.properties files plus tz310cnp_57.properties.
+Output: the *_default.properties files plus tz310cnp_57.properties, and the example numbers:
+example_numbers.tsv and sample_numbers.txt (the sample of `numbering diff`).
 
     python3 tools/generate_config.py                 # regenerate data/
     python3 tools/generate_config.py --check         # exit 1 and list the files that are stale
@@ -546,6 +547,16 @@ def example_numbers(facts):
     return "\n".join(rows) + "\n"
 
 
+def sample_numbers(facts):
+    """The sample that `numbering diff` converts when given no numbers: each country's example
+    numbers in "+" form, then as dialled inside the country (behind its national prefix)."""
+    examples = [(row, row[kind]) for row in sorted(facts.countries, key=lambda r: r["iso2"])
+                for kind in ("fixed_example", "mobile_example") if row[kind]]
+    numbers = ["+%s %s" % (row["calling_code"], example) for row, example in examples]
+    numbers += [row["national_prefix"] + example for row, example in examples]
+    return "\n".join(dict.fromkeys(numbers)) + "\n"
+
+
 # ---------------------------------------------------------------------------------------------
 # Driver
 
@@ -564,6 +575,7 @@ def generate(facts_dir):
     files["tz310cnp_57.properties"] = operators
     files["tz310cnp_57_default.properties"] = operators
     files["example_numbers.tsv"] = example_numbers(facts)
+    files["sample_numbers.txt"] = sample_numbers(facts)
     return files
 
 
@@ -576,7 +588,7 @@ def write_files(files, out_dir):
 
 
 GENERATED_NAME = re.compile(r"^((dialingrules|dlr_cnp_mask|specific_format_activation|tz310cnp_\d+)"
-                            r"(_default)?\.properties|example_numbers\.tsv)$")
+                            r"(_default)?\.properties|example_numbers\.tsv|sample_numbers\.txt)$")
 
 
 def check(files, out_dir):

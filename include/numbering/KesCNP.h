@@ -8,6 +8,7 @@
 
 namespace numbering {
 
+class Generation;
 class KesDialRulesItem;
 
 /// A country numbering plan: knows which leading digits of a national number form an area code
@@ -15,7 +16,9 @@ class KesDialRulesItem;
 /// comes back unchanged. Plans are made by KesCNPFactory and cached by KesCNPManager.
 class NUMBERING_API KesCNP {
 public:
-    KesCNP() = default;
+    /// A plan made by KesCNPManager belongs to the manager's configuration; one made otherwise reads
+    /// the configuration current when it needs one.
+    KesCNP();
     virtual ~KesCNP();
 
     /// The canonical form of `number` (digits as dialled at the installation described by `rules`),
@@ -28,6 +31,10 @@ public:
 
     /// Live plans of every country, for leak diagnostics.
     static int _count;
+
+protected:
+    /// The configuration this plan reads its file and the dialing rules from; null when a host made it.
+    Generation* const owner;
 
 private:
     ReferenceCount<KesCNP> references;

@@ -15,6 +15,7 @@ class Logger;
 
 namespace numbering {
 
+class Generation;
 template <class Value> class TextKeyMap;
 
 /// The cache of country plans, keyed by the upper-case country code ("DE"), one for each loaded
@@ -47,7 +48,8 @@ public:
     static Logger* logger;
 
 private:
-    KesCNPManager();
+    friend KesCNPManager& planCacheOf(Generation& generation);
+    explicit KesCNPManager(Generation& generation);
     KesCNPManager(const KesCNPManager&) = delete;
     KesCNPManager& operator=(const KesCNPManager&) = delete;
 
@@ -55,6 +57,8 @@ private:
     void notFound(const std::string& country);
     bool isCountryNotFoundLocked(const std::string& country) const;
 
+    /// The generation whose store and files the plans are built from.
+    Generation& generation;
     /// Plans by country, and a null plan for each country remembered as having none.
     std::unique_ptr<TextKeyMap<Poco::AutoPtr<KesCNP>>> plans;
     std::vector<std::string> notFoundCountries;

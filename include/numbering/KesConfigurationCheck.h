@@ -21,6 +21,9 @@ struct NUMBERING_API KesConfigurationFinding {
     std::string key;     ///< the key it is about; "" for the file as a whole
     int line;            ///< 1-based line of the key, 0 when it cannot be told
     std::string message; ///< for the installer: what the library does, and what that means
+    /// 0 for a finding of its own; more than 0 when it only counts that many further findings of
+    /// the kind listed before it, in the same file: a few of each kind are listed, the rest counted.
+    int alike = 0;
 
     /// "note", "warning" or "error".
     static const char* severityName(Severity severity);
@@ -41,6 +44,8 @@ struct NUMBERING_API KesConfigurationReport {
 
     /// 0 when nothing or only notes were found, 1 with warnings, 2 with errors.
     int status() const;
+    /// The findings of `severity`, the counted ones included.
+    int count(KesConfigurationFinding::Severity severity) const;
 };
 
 /// Checks the property files of a configuration directory as the library reads them, with its own

@@ -10,6 +10,7 @@ class Logger;
 
 namespace numbering {
 
+class Generation;
 class KesCountryRuleItem;
 class KesDialRulesItem;
 
@@ -56,7 +57,11 @@ protected:
     static void mergePrefix(std::string& result, const std::string& prefix);
     /// The area field of an international number: empty when it is exactly the destination country's
     /// national prefix (a canonical number that carries it in place of an area code), else unchanged.
-    static void dropDestinationNationalPrefix(const std::string& country, std::string& areaNatPfx);
+    void dropDestinationNationalPrefix(const std::string& country, std::string& areaNatPfx) const;
+
+    /// The configuration this strategy reads its file and the dialing rules from; null when a host
+    /// made it, which then reads the configuration current when it needs one.
+    Generation* const owner;
 
 private:
     std::string applyRule(const std::string& rule, const std::string& prefix, const std::string& areaNatPfx,

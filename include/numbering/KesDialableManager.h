@@ -14,6 +14,7 @@ class Logger;
 
 namespace numbering {
 
+class Generation;
 template <class Value> class TextKeyMap;
 
 /// The cache of dialing strategies, keyed by calling code ("33"), one for each loaded
@@ -43,10 +44,13 @@ public:
     static Logger* logger;
 
 private:
-    KesDialableManager();
+    friend KesDialableManager& strategyCacheOf(Generation& generation);
+    explicit KesDialableManager(Generation& generation);
     KesDialableManager(const KesDialableManager&) = delete;
     KesDialableManager& operator=(const KesDialableManager&) = delete;
 
+    /// The generation whose store and files the strategies read.
+    Generation& generation;
     std::unique_ptr<TextKeyMap<Poco::AutoPtr<KesDialable>>> strategies;
     /// Serialises the building of strategies.
     Poco::FastMutex mutex;

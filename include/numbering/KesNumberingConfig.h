@@ -17,7 +17,7 @@ class Logger;
 
 namespace numbering {
 
-class Configuration;
+class Generation;
 template <class Value> class TextKeyMap;
 
 /// The process-wide store of per-country telephony facts: the dialing rules (country code,
@@ -117,8 +117,8 @@ public:
     static std::string SPECIFIC_FORMAT_DEFAULT_FILE; ///< read when SPECIFIC_FORMAT_FILE cannot be opened
 
 private:
-    friend class Configuration;
-    explicit KesNumberingConfig(const std::string& configurationDirectory);
+    friend KesNumberingConfig& storeOf(Generation& generation);
+    explicit KesNumberingConfig(Generation& generation);
     KesNumberingConfig(const KesNumberingConfig&) = delete;
     KesNumberingConfig& operator=(const KesNumberingConfig&) = delete;
 
@@ -128,7 +128,7 @@ private:
         KesCountryRuleItem* rule; // null when the code names no record
     };
 
-    const std::string directory;                              // where this store's files are read
+    Generation& generation;                                   // where this store's files are read
     std::unique_ptr<TextKeyMap<Country>> countryCodeByNumber; // primary rows only
     std::unique_ptr<TextKeyMap<std::string>> countryCodeByName;
     std::unique_ptr<TextKeyMap<Poco::AutoPtr<KesCountryRuleItem>>> countryRules;

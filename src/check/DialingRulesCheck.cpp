@@ -30,6 +30,10 @@ bool isCountryCode(const std::string& key) {
            std::all_of(key.begin(), key.end(), [](char c) { return c >= 'A' && c <= 'Z'; });
 }
 
+bool isCallingCode(const std::string& text) {
+    return !text.empty() && text.size() <= 3 && allDigits(text);
+}
+
 /// The characters of `rule` from `from` on that are none of `letters`.
 std::string meaningless(const std::string& rule, std::string::size_type from, const std::string& letters) {
     std::string found;
@@ -47,7 +51,7 @@ public:
         checkKey(key, row);
         checkFieldCount(key, row);
         const std::string& callingCode = row.callingCode();
-        if (callingCode.empty() || callingCode.size() > 3 || !allDigits(callingCode))
+        if (!isCallingCode(callingCode))
             file.report(Severity::Error, key,
                         key + ": calling code '" + callingCode +
                             "' is not one to three digits: no number ever matches it");
@@ -186,6 +190,16 @@ std::vector<std::string> checkDialingRules(CheckedFile& file, DialingRules& rule
         rules.rows.emplace(keys[i], std::move(row));
         loaded.push_back(keys[i]);
     }
+    // A row serves when an installation can name its country and numbers can match its calling code.
+    const bool usable = std::any_of(rules.rows.begin(), rules.rows.end(), [](const auto& row) {
+        return isCountryCode(row.first) && isCallingCode(row.second.callingCode());
+    });
+    if (!usable)
+        file.report(
+            Severity::Error, std::string(),
+            std::string(rules.rows.empty() ? "no row" : "no usable row") +
+                " (a two-letter country code = calling code:international prefix:...): the library knows "
+                "no country and refuses every installation as unsupported");
     for (const auto& [callingCode, keysOfCode] : rules.rowsOfCallingCode)
         if (rules.countryOfCallingCode.count(callingCode) == 0)
             file.report(Severity::Error, keysOfCode.front(),

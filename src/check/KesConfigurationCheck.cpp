@@ -1,6 +1,8 @@
 #include "numbering/KesConfigurationCheck.h"
 
 #include "FileChecks.h"
+#include "RepeatedFindings.h"
+#include "TextEncoding.h"
 #include "numbering/KesNumberingConfig.h"
 
 #include <Poco/Exception.h>
@@ -29,6 +31,14 @@ int KesConfigurationReport::status() const {
     for (const KesConfigurationFinding& finding : findings)
         status = std::max(status, static_cast<int>(finding.severity));
     return status;
+}
+
+int KesConfigurationReport::count(KesConfigurationFinding::Severity severity) const {
+    int found = 0;
+    for (const KesConfigurationFinding& finding : findings)
+        if (finding.severity == severity)
+            found += finding.alike > 0 ? finding.alike : 1;
+    return found;
 }
 
 namespace configcheck {
@@ -77,7 +87,7 @@ public:
 
     KesConfigurationReport run() {
         DialingRules rules;
-        checkFile(
+        const bool plainRules = checkFile(
             {"dialingrules.properties", "dialingrules_default.properties", Severity::Error,
              "the library knows no country and refuses every installation as unsupported", "countries"},
             [&](CheckedFile& file) { return checkDialingRules(file, rules); },
@@ -85,6 +95,8 @@ public:
                 DialingRules other;
                 return checkDialingRules(file, other);
             });
+        if (!plainRules)
+            rules = DialingRules(); // its garbled rows would only garble the findings about the other files
         const Check masks = [&](CheckedFile& file) { return checkMasks(file, rules); };
         checkFile({"dlr_cnp_mask.properties", "dlr_cnp_mask_default.properties", Severity::Error,
                    "every canonical number keeps only its subscriber number when laid out",
@@ -123,13 +135,15 @@ public:
                 nullptr);
         }
         sortFindings();
+        countRepeatedFindings(report.findings);
         return std::move(report);
     }
 
 private:
     /// Checks the file of `role` that the library reads with `check`; when that is an installation
-    /// file beside a default, lists what `load` finds in the default and not in it.
-    void checkFile(const FileRole& role, const Check& check, const Check& load) {
+    /// file beside a default, lists what `load` finds in the default and not in it. False when the
+    /// file in use is in another encoding than plain text.
+    bool checkFile(const FileRole& role, const Check& check, const Check& load) {
         const std::string installation = directory + role.name;
         const std::string fallback = role.defaultName.empty() ? std::string() : directory + role.defaultName;
         report.files.push_back({installation, fallback, std::string()});
@@ -140,7 +154,7 @@ private:
                 addFinding(opened.absent ? role.severityWhenNone : Severity::Error, installation,
                            (opened.absent ? "missing" : "cannot be opened (" + opened.whyNot + ")") + ": " +
                                role.whenNone);
-                return;
+                return true;
             }
             if (!opened.absent)
                 addFinding(Severity::Error, installation,
@@ -153,17 +167,24 @@ private:
                     "cannot be opened (" + defaultOpened.whyNot + ")" +
                         (opened.absent ? ", and " + role.name + " does not exist either" : std::string()) +
                         ": " + role.whenNone);
-                return;
+                return true;
             }
             opened = std::move(defaultOpened);
             inUse = fallback;
         }
         report.files.back().inUse = inUse;
-        CheckedFile file(inUse, std::move(*opened.text), &report.findings);
+        // A file in another encoding gives that one finding: the keys the reader makes of it are
+        // garbled, and so would be every finding about them. It is still read, for what the
+        // checks of the other files need to know of it.
+        const std::string encoding = encodingProblem(opened.text->text);
+        if (!encoding.empty())
+            addFinding(Severity::Error, inUse, encoding);
+        CheckedFile file(inUse, std::move(*opened.text), encoding.empty() ? &report.findings : nullptr);
         const std::vector<std::string> loaded = check(file);
         file.checkText();
         if (inUse == installation && !fallback.empty())
             compareWithDefault(role, file, loaded, load);
+        return encoding.empty();
     }
 
     void compareWithDefault(const FileRole& role, CheckedFile& file, const std::vector<std::string>& loaded,

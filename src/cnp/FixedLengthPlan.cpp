@@ -1,6 +1,8 @@
 #include "FixedLengthPlan.h"
 
 #include "PlanText.h"
+#include "config/Store.h"
+#include "lifecycle/Conversion.h"
 #include "numbering/KesCountryRuleItem.h"
 #include "numbering/KesDialRulesItem.h"
 #include "numbering/KesNumberingConfig.h"
@@ -12,15 +14,16 @@ namespace {
 
 // The dialing rules are expected to hold the country; without it there is no prefix to add or to
 // recognise.
-std::string nationalPrefix(const char* countryKey) {
-    KesCountryRuleItem* rule = KesNumberingConfig::getInstance()->getCountryRule(countryKey);
+std::string nationalPrefix(Generation* owner, const char* countryKey) {
+    const Conversion conversion(owner);
+    KesCountryRuleItem* rule = storeOf(conversion.generation()).findCountryRule(countryKey);
     return rule == nullptr ? std::string() : rule->getLongDistPrefix();
 }
 
 } // namespace
 
-std::string makeFixedLengthCanonicalNumber(const FixedLengthPlan& plan, Logger* logger, std::string number,
-                                           KesDialRulesItem* rules) {
+std::string makeFixedLengthCanonicalNumber(const FixedLengthPlan& plan, Generation* owner, Logger* logger,
+                                           std::string number, KesDialRulesItem* rules) {
     if (!plantext::entered(number, rules, logger))
         return number;
 
@@ -28,7 +31,7 @@ std::string makeFixedLengthCanonicalNumber(const FixedLengthPlan& plan, Logger* 
     if (number.size() == plan.nationalLength)
         return plan.canonical(number);
 
-    std::string natPfx = nationalPrefix(plan.countryKey);
+    std::string natPfx = nationalPrefix(owner, plan.countryKey);
     if (natPfx.size() + number.size() == plan.nationalLength &&
         !(plan.completesOnlyUnprefixed && startsWith(number, natPfx)) && !rules->isLocalNumber(number) &&
         !rules->isExceptionNumber(number)) {

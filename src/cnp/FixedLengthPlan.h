@@ -12,6 +12,7 @@ class Logger;
 
 namespace numbering {
 
+class Generation;
 class KesDialRulesItem;
 
 /// What sets one fixed-length plan apart from the others.
@@ -27,9 +28,9 @@ struct FixedLengthPlan {
 };
 
 /// The canonical form of `number`, or `number` unchanged. A country without a dialing rules row
-/// has an empty national prefix.
-std::string makeFixedLengthCanonicalNumber(const FixedLengthPlan& plan, Logger* logger, std::string number,
-                                           KesDialRulesItem* rules);
+/// has an empty national prefix. `owner` is the plan's configuration (null: the current one).
+std::string makeFixedLengthCanonicalNumber(const FixedLengthPlan& plan, Generation* owner, Logger* logger,
+                                           std::string number, KesDialRulesItem* rules);
 
 } // namespace numbering
 

@@ -2,6 +2,7 @@
 
 #include "config/PropertyFiles.h"
 #include "config/PropertyRules.h"
+#include "lifecycle/Conversion.h"
 #include "numbering/KesDialRulesItem.h"
 #include "numbering/KesNumberingConfig.h"
 #include "numbering/Logger.h"
@@ -24,9 +25,8 @@ KesAreaCodePlan::~KesAreaCodePlan() = default;
 void KesAreaCodePlan::loadAreaCodes(const PlanFile& file, Logger* planLogger) {
     try {
         const Poco::AutoPtr<NumberedProperties> properties(new NumberedProperties(
-            readInstallationOrDefault(KesNumberingConfig::configFile(file.installationFile),
-                                      KesNumberingConfig::configFile(file.defaultFile), planLogger,
-                                      file.textWhenUnopenable, file.textWhenNotFound),
+            readInstallationOrDefault(Conversion(owner).generation(), file.installationFile, file.defaultFile,
+                                      planLogger, file.textWhenUnopenable, file.textWhenNotFound),
             "AC_"));
         if (file.readsTranslate)
             translate = translateOn(properties->getString("Translate"));

@@ -1,8 +1,12 @@
 #include "numbering/KesCNP.h"
 
+#include "lifecycle/Conversion.h"
+
 namespace numbering {
 
 int KesCNP::_count = 0;
+
+KesCNP::KesCNP() : owner(MakingFor::owner()) {}
 
 KesCNP::~KesCNP() = default;
 

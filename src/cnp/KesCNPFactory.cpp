@@ -1,5 +1,7 @@
 #include "numbering/KesCNPFactory.h"
 
+#include "PlanCache.h"
+
 #include "numbering/KesCNP_1.h"
 #include "numbering/KesCNP_31.h"
 #include "numbering/KesCNP_32.h"
@@ -37,6 +39,15 @@ const PlanRow PLANS[] = {
 };
 
 } // namespace
+
+std::vector<std::string> planFileNames() {
+    std::vector<std::string> names;
+    for (const PlanRow& row : PLANS) {
+        names.push_back(std::string("tz310cnp_") + row.countryNumber + ".properties");
+        names.push_back(std::string("tz310cnp_") + row.countryNumber + "_default.properties");
+    }
+    return names;
+}
 
 KesCNP* KesCNPFactory::CreateInstance(std::string countryNumber) {
     for (const PlanRow& row : PLANS)

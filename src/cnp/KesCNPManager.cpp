@@ -1,7 +1,9 @@
 #include "numbering/KesCNPManager.h"
 
-#include "config/Configuration.h"
-#include "config/TextKeyMap.h"
+#include "PlanCache.h"
+#include "config/Store.h"
+#include "lifecycle/Conversion.h"
+#include "lifecycle/TextKeyMap.h"
 #include "numbering/KesCNPFactory.h"
 #include "numbering/KesNumberingConfig.h"
 #include "numbering/Logger.h"
@@ -16,18 +18,27 @@ namespace numbering {
 KesCNPManager* KesCNPManager::instance = nullptr;
 Logger* KesCNPManager::logger = Logger::getLogger(typeid(KesCNPManager).name());
 
-KesCNPManager* KesCNPManager::getInstance() {
+KesCNPManager& planCacheOf(Generation& generation) {
     if (Logger::m_Traces)
-        logger->debug("getInstance()");
-    return Configuration::inUse().cache(Configuration::PLANS, instance, [] { return new KesCNPManager(); });
+        KesCNPManager::logger->debug("getInstance()");
+    return generation.plans.getOrMake([&generation] { return new KesCNPManager(generation); },
+                                      generation.isCurrent());
+}
+
+KesCNPManager* KesCNPManager::getInstance() {
+    const Conversion conversion; // inside a conversion, the cache of the generation it pinned
+    return &planCacheOf(conversion.generation());
 }
 
 void KesCNPManager::resetInstance() {
-    if (Configuration* current = Configuration::current())
-        current->dropCache(Configuration::PLANS);
+    std::lock_guard<std::recursive_mutex> lock(lifecycleMutex());
+    if (Generation* current = Generation::currentIfAny())
+        current->plans.drop();
+    Generation::forgetFiles();
 }
 
-KesCNPManager::KesCNPManager() : plans(new TextKeyMap<Poco::AutoPtr<KesCNP>>) {
+KesCNPManager::KesCNPManager(Generation& owner)
+    : generation(owner), plans(new TextKeyMap<Poco::AutoPtr<KesCNP>>) {
     if (Logger::m_Traces)
         logger->debug("KesCNPManager()");
 }
@@ -55,12 +66,13 @@ KesCNP* KesCNPManager::loadCNPClass(std::string country) {
         return nullptr;
     }
     Poco::toUpperInPlace(country);
-    KesNumberingConfig* config = KesNumberingConfig::getInstance();
-    std::string number = config->getCountryNumber(country);
-    if (!config->isSpecificFormatActiveForCountry(number)) {
+    KesNumberingConfig& config = storeOf(generation);
+    std::string number = config.getCountryNumber(country);
+    if (!config.isSpecificFormatActiveForCountry(number)) {
         notFound(country);
         return nullptr;
     }
+    const MakingFor making(generation); // the plan reads its file, and later the store, of this generation
     Poco::AutoPtr<KesCNP> plan(KesCNPFactory::CreateInstance(number));
     if (plan.isNull()) {
         notFound(country);

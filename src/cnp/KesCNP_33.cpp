@@ -31,7 +31,7 @@ KesCNP_33::KesCNP_33() {
 KesCNP_33::~KesCNP_33() = default;
 
 std::string KesCNP_33::dlr_Country_MakeCanonicalNumber(std::string number, KesDialRulesItem* rules) {
-    return makeFixedLengthCanonicalNumber(FRANCE, logger, std::move(number), rules);
+    return makeFixedLengthCanonicalNumber(FRANCE, owner, logger, std::move(number), rules);
 }
 
 } // namespace numbering

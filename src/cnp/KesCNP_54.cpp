@@ -1,6 +1,8 @@
 #include "numbering/KesCNP_54.h"
 
 #include "PlanText.h"
+#include "config/Store.h"
+#include "lifecycle/Conversion.h"
 #include "numbering/KesCountryRuleItem.h"
 #include "numbering/KesDialRulesItem.h"
 #include "numbering/KesNumberingConfig.h"
@@ -46,7 +48,8 @@ bool KesCNP_54::strip(const std::string& number, KesDialRulesItem* rules, Stripp
     if (Logger::m_Traces)
         logger->debug("stripNbr('" + number + "', '" + rules->ToString() + "')");
     // Without an "AR" row the national prefix is taken as empty, which every number begins with.
-    KesCountryRuleItem* argentina = KesNumberingConfig::getInstance()->getCountryRule("AR");
+    const Conversion conversion(owner);
+    KesCountryRuleItem* argentina = storeOf(conversion.generation()).findCountryRule("AR");
     std::string nationalPrefix = argentina != nullptr ? argentina->getLongDistPrefix() : std::string();
     std::string ownArea = rules->getAreaCode();
 

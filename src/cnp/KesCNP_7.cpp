@@ -32,7 +32,7 @@ KesCNP_7::KesCNP_7() {
 KesCNP_7::~KesCNP_7() = default;
 
 std::string KesCNP_7::dlr_Country_MakeCanonicalNumber(std::string number, KesDialRulesItem* rules) {
-    return makeFixedLengthCanonicalNumber(RUSSIA, logger, std::move(number), rules);
+    return makeFixedLengthCanonicalNumber(RUSSIA, owner, logger, std::move(number), rules);
 }
 
 } // namespace numbering

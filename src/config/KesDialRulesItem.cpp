@@ -1,7 +1,8 @@
 #include "numbering/KesDialRulesItem.h"
 
-#include "Configuration.h"
+#include "Store.h"
 #include "common/NumberText.h"
+#include "lifecycle/Conversion.h"
 #include "numbering/KesNumberingConfig.h"
 #include "numbering/KesUnsupportedCountryException.h"
 #include "numbering/Logger.h"
@@ -38,8 +39,8 @@ void KesDialRulesItem::checkCountry(const std::string& code) {
     if (code.size() != 2)
         throw std::invalid_argument(
             "'strCountryCode' parameter can not be null and must be an Alpha-2 ISO 3166 country code");
-    PinnedConfiguration pin; // a reload may run on another thread
-    KesNumberingConfig* config = pin.store();
+    const Conversion conversion; // a reload may run on another thread
+    KesNumberingConfig* config = &storeOf(conversion.generation());
     if (config == nullptr)
         throw KesUnsupportedCountryException(code, "Dialing rules configuration can not be loaded");
     if (!config->validCountryCode(code))

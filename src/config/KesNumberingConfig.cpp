@@ -1,9 +1,10 @@
 #include "numbering/KesNumberingConfig.h"
 
-#include "Configuration.h"
 #include "PropertyFiles.h"
 #include "PropertyRules.h"
-#include "TextKeyMap.h"
+#include "Store.h"
+#include "lifecycle/Conversion.h"
+#include "lifecycle/TextKeyMap.h"
 #include "numbering/Logger.h"
 #include "numbering/number_format_exception.h"
 
@@ -33,18 +34,19 @@ namespace {
 
 const int BUCKETS = 64;
 const char* const NO_DIALING_RULES_FILE = "No specific dialing rules configuration file";
+const char* const FILE_STEMS[] = {"dialingrules", "dlr_cnp_mask", "specific_format_activation"};
 
-/// Reads the installation file `fileStem` + ".properties" of `directory`, or its default file, and
+/// Reads the installation file `fileStem` + ".properties" of `generation`, or its default file, and
 /// calls `loadKey(file, key)` for each of its root keys in ascending order. Any exception ends the
 /// loading with an error line naming the store's `operation`; what was loaded before it stays.
 /// True when every key was loaded.
 template <class LoadKey>
-bool loadEachKey(const std::string& directory, Logger* logger, const std::string& fileStem,
+bool loadEachKey(const Generation& generation, Logger* logger, const std::string& fileStem,
                  const std::string& textWhenNoFile, const char* operation, LoadKey loadKey) {
     try {
-        const auto file = parseProperties(readInstallationOrDefault(
-            directory + fileStem + ".properties", directory + fileStem + "_default.properties", logger,
-            textWhenNoFile, textWhenNoFile));
+        const auto file = parseProperties(readInstallationOrDefault(generation, fileStem + ".properties",
+                                                                    fileStem + "_default.properties", logger,
+                                                                    textWhenNoFile, textWhenNoFile));
         Poco::Util::AbstractConfiguration::Keys keys;
         file->keys(keys);
         for (const std::string& key : keys)
@@ -58,13 +60,27 @@ bool loadEachKey(const std::string& directory, Logger* logger, const std::string
 
 } // namespace
 
+KesNumberingConfig& storeOf(Generation& generation) {
+    return generation.store.getOrMake([&generation] { return new KesNumberingConfig(generation); },
+                                      generation.isCurrent());
+}
+
+std::vector<std::string> storeFileNames() {
+    std::vector<std::string> names;
+    for (const char* stem : FILE_STEMS) {
+        names.push_back(std::string(stem) + ".properties");
+        names.push_back(std::string(stem) + "_default.properties");
+    }
+    return names;
+}
+
 std::string KesNumberingConfig::configDirectory() {
-    if (PinnedConfiguration::active())
-        return Configuration::inUse().directory;
-    // Not inside a conversion: the current configuration's, without loading one.
-    std::lock_guard<std::recursive_mutex> lock(Configuration::lifecycle());
-    Configuration* current = Configuration::current();
-    return current != nullptr ? current->directory : Configuration::chosenDirectory();
+    if (Generation* pinned = Conversion::pinnedByThread())
+        return pinned->directory;
+    // Not inside a conversion: the current generation's, without making one.
+    std::lock_guard<std::recursive_mutex> lock(lifecycleMutex());
+    Generation* current = Generation::currentIfAny();
+    return current != nullptr ? current->directory : Generation::chosenDirectory();
 }
 
 std::string KesNumberingConfig::configFile(const std::string& fileName) {
@@ -72,15 +88,19 @@ std::string KesNumberingConfig::configFile(const std::string& fileName) {
 }
 
 KesNumberingConfig* KesNumberingConfig::getInstance() {
-    return Configuration::inUse().store;
+    const Conversion conversion; // inside a conversion, the store it pinned
+    return &storeOf(conversion.generation());
 }
 
 void KesNumberingConfig::resetInstance() {
-    Configuration::reset();
+    std::lock_guard<std::recursive_mutex> lock(lifecycleMutex());
+    if (Generation* current = Generation::currentIfAny())
+        current->store.drop();
+    Generation::forgetFiles();
 }
 
-KesNumberingConfig::KesNumberingConfig(const std::string& configurationDirectory)
-    : directory(configurationDirectory), countryCodeByNumber(new TextKeyMap<Country>),
+KesNumberingConfig::KesNumberingConfig(Generation& owner)
+    : generation(owner), countryCodeByNumber(new TextKeyMap<Country>),
       countryCodeByName(new TextKeyMap<std::string>),
       countryRules(new TextKeyMap<Poco::AutoPtr<KesCountryRuleItem>>),
       countryMasks(new TextKeyMap<std::string>), specificFormatActivation(BUCKETS) {
@@ -111,7 +131,8 @@ bool KesNumberingConfig::loadDialingRules() {
             countryCodeByNumber->insert(row.callingCode(), Country{code, stored});
         countryCodeByName->insert(row.name(), code);
     };
-    return loadEachKey(directory, logger, "dialingrules", NO_DIALING_RULES_FILE, "loadDialingRules", loadRow);
+    return loadEachKey(generation, logger, "dialingrules", NO_DIALING_RULES_FILE, "loadDialingRules",
+                       loadRow);
 }
 
 void KesNumberingConfig::createListCountryDisplay() {
@@ -139,7 +160,7 @@ bool KesNumberingConfig::loadCountryMasks() {
     };
     // The info text names the dialing rules although the masks are meant: hosts grep for it.
     const bool complete =
-        loadEachKey(directory, logger, "dlr_cnp_mask", NO_DIALING_RULES_FILE, "loadCountryMasks", loadMask);
+        loadEachKey(generation, logger, "dlr_cnp_mask", NO_DIALING_RULES_FILE, "loadCountryMasks", loadMask);
     if (complete && Logger::m_Traces) {
         // The count is added to the start of the text rather than printed: it skips that many
         // characters ("untry masks loaded" for three masks).
@@ -185,7 +206,7 @@ bool KesNumberingConfig::loadSpecificFormatActivation() {
         // only a country number reading as 0 ever sees it (see isSpecificFormatActiveForCountry).
         specificFormatActivation.insert(std::make_pair(0, active));
     };
-    return loadEachKey(directory, logger, "specific_format_activation",
+    return loadEachKey(generation, logger, "specific_format_activation",
                        "No specific format activation configuration file", "loadSpecificFormatActivation",
                        loadSwitch);
 }

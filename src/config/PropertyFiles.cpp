@@ -1,5 +1,6 @@
 #include "PropertyFiles.h"
 
+#include "lifecycle/Generation.h"
 #include "numbering/Logger.h"
 
 #include <Poco/Error.h>
@@ -70,17 +71,72 @@ std::string readPropertyFile(const std::string& path) {
     return text;
 }
 
-std::string readInstallationOrDefault(const std::string& installationFile, const std::string& defaultFile,
-                                      Logger* logger, const std::string& textWhenUnopenable,
+namespace {
+
+template <class Read>
+std::string readInstallationOrDefault(Read read, const std::string& installationFile,
+                                      const std::string& defaultFile, Logger* logger,
+                                      const std::string& textWhenUnopenable,
                                       const std::string& textWhenNotFound) {
     try {
-        return readPropertyFile(installationFile);
+        return read(installationFile);
     } catch (const Poco::OpenFileException&) {
         logger->info(textWhenUnopenable);
     } catch (const Poco::FileNotFoundException&) {
         logger->info(textWhenNotFound);
     }
-    return readPropertyFile(defaultFile);
+    return read(defaultFile);
+}
+
+} // namespace
+
+std::string readInstallationOrDefault(const std::string& installationFile, const std::string& defaultFile,
+                                      Logger* logger, const std::string& textWhenUnopenable,
+                                      const std::string& textWhenNotFound) {
+    const auto read = [](const std::string& path) { return readPropertyFile(path); };
+    return readInstallationOrDefault(read, installationFile, defaultFile, logger, textWhenUnopenable,
+                                     textWhenNotFound);
+}
+
+std::string readInstallationOrDefault(const Generation& generation, const std::string& installationName,
+                                      const std::string& defaultName, Logger* logger,
+                                      const std::string& textWhenUnopenable,
+                                      const std::string& textWhenNotFound) {
+    const auto read = [&generation](const std::string& name) { return readPropertyFile(generation, name); };
+    return readInstallationOrDefault(read, installationName, defaultName, logger, textWhenUnopenable,
+                                     textWhenNotFound);
+}
+
+std::unique_ptr<const FileSnapshot> readFiles(const std::string& directory,
+                                              const std::vector<std::string>& names) {
+    std::unique_ptr<FileSnapshot> snapshot(new FileSnapshot);
+    for (const std::string& name : names) {
+        FileSnapshot::File& file = snapshot->files[name];
+        try {
+            file = {FileSnapshot::Outcome::Read, readPropertyFile(directory + name)};
+        } catch (const Poco::FileNotFoundException&) {
+            file = {FileSnapshot::Outcome::NotFound, std::string()};
+        } catch (const Poco::OpenFileException& e) {
+            file = {FileSnapshot::Outcome::Unopenable, e.message()};
+        }
+    }
+    return snapshot;
+}
+
+std::string readPropertyFile(const Generation& generation, const std::string& name) {
+    const std::string path = generation.directory + name;
+    const FileSnapshot* snapshot = generation.files();
+    if (snapshot == nullptr)
+        return readPropertyFile(path);
+    const auto taken = snapshot->files.find(name);
+    if (taken == snapshot->files.end()) // a file no reload expected
+        return readPropertyFile(path);
+    const FileSnapshot::File& file = taken->second;
+    if (file.outcome == FileSnapshot::Outcome::NotFound)
+        throw Poco::FileNotFoundException(path);
+    if (file.outcome == FileSnapshot::Outcome::Unopenable)
+        throw Poco::OpenFileException(file.text);
+    return file.text;
 }
 
 Poco::AutoPtr<Poco::Util::PropertyFileConfiguration> parseProperties(std::string_view text) {

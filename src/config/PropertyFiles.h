@@ -12,6 +12,7 @@
 #include <Poco/Util/PropertyFileConfiguration.h>
 
 #include <cstdint>
+#include <memory>
 #include <string>
 #include <string_view>
 #include <vector>
@@ -19,6 +20,9 @@
 class Logger;
 
 namespace numbering {
+
+class Generation;
+struct FileSnapshot;
 
 /// The content of the property file at `path`. Only a regular file is read: a missing one raises
 /// Poco::FileNotFoundException, any other that cannot be read (a directory, a FIFO, a device, no
@@ -32,6 +36,21 @@ std::string readPropertyFile(const std::string& path);
 /// either throws.
 std::string readInstallationOrDefault(const std::string& installationFile, const std::string& defaultFile,
                                       Logger* logger, const std::string& textWhenUnopenable,
+                                      const std::string& textWhenNotFound);
+
+/// The files `names` of `directory` as they are now, each read as readPropertyFile reads it (or
+/// why it could not be).
+std::unique_ptr<const FileSnapshot> readFiles(const std::string& directory,
+                                              const std::vector<std::string>& names);
+
+/// The content of the file `name` of `generation`: as the reload that made the generation read it,
+/// else as it is on disk. Throws as readPropertyFile.
+std::string readPropertyFile(const Generation& generation, const std::string& name);
+
+/// readInstallationOrDefault on the files `installationName` and `defaultName` of `generation`.
+std::string readInstallationOrDefault(const Generation& generation, const std::string& installationName,
+                                      const std::string& defaultName, Logger* logger,
+                                      const std::string& textWhenUnopenable,
                                       const std::string& textWhenNotFound);
 
 /// Poco's reading of `text`, the content of a property file.

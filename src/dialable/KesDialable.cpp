@@ -1,5 +1,8 @@
 #include "numbering/KesDialable.h"
 
+#include "config/Store.h"
+#include "lifecycle/Conversion.h"
+
 #include "numbering/KesCountryRuleItem.h"
 #include "numbering/KesNumberingConfig.h"
 #include "numbering/Logger.h"
@@ -11,7 +14,7 @@ namespace numbering {
 int KesDialable::_count = 0;
 Logger* KesDialable::logger = Logger::getLogger(typeid(KesDialable).name());
 
-KesDialable::KesDialable() {
+KesDialable::KesDialable() : owner(MakingFor::owner()) {
     if (Logger::m_Traces)
         logger->debug("KesDialable()");
 }
@@ -31,9 +34,10 @@ std::string KesDialable::extractOperatorPrefix(std::string) {
     return std::string();
 }
 
-void KesDialable::dropDestinationNationalPrefix(const std::string& country, std::string& areaNatPfx) {
+void KesDialable::dropDestinationNationalPrefix(const std::string& country, std::string& areaNatPfx) const {
     // Only an exact match counts: an area code that merely begins with the prefix stays.
-    KesCountryRuleItem* destination = KesNumberingConfig::getInstance()->findCountryRuleOfNumber(country);
+    const Conversion conversion(owner);
+    KesCountryRuleItem* destination = storeOf(conversion.generation()).findCountryRuleOfNumber(country);
     if (destination == nullptr)
         return;
     std::string destinationPrefix = destination->getLongDistPrefix();

@@ -1,7 +1,8 @@
 #include "numbering/KesDialableManager.h"
 
-#include "config/Configuration.h"
-#include "config/TextKeyMap.h"
+#include "StrategyCache.h"
+#include "lifecycle/Conversion.h"
+#include "lifecycle/TextKeyMap.h"
 #include "numbering/KesDialableFactory.h"
 #include "numbering/Logger.h"
 
@@ -12,19 +13,27 @@ namespace numbering {
 KesDialableManager* KesDialableManager::instance = nullptr;
 Logger* KesDialableManager::logger = Logger::getLogger(typeid(KesDialableManager).name());
 
-KesDialableManager* KesDialableManager::getInstance() {
+KesDialableManager& strategyCacheOf(Generation& generation) {
     if (Logger::m_Traces)
-        logger->debug("getInstance()");
-    return Configuration::inUse().cache(Configuration::STRATEGIES, instance,
-                                        [] { return new KesDialableManager(); });
+        KesDialableManager::logger->debug("getInstance()");
+    return generation.strategies.getOrMake([&generation] { return new KesDialableManager(generation); },
+                                           generation.isCurrent());
+}
+
+KesDialableManager* KesDialableManager::getInstance() {
+    const Conversion conversion; // inside a conversion, the cache of the generation it pinned
+    return &strategyCacheOf(conversion.generation());
 }
 
 void KesDialableManager::resetInstance() {
-    if (Configuration* current = Configuration::current())
-        current->dropCache(Configuration::STRATEGIES);
+    std::lock_guard<std::recursive_mutex> lock(lifecycleMutex());
+    if (Generation* current = Generation::currentIfAny())
+        current->strategies.drop();
+    Generation::forgetFiles();
 }
 
-KesDialableManager::KesDialableManager() : strategies(new TextKeyMap<Poco::AutoPtr<KesDialable>>) {
+KesDialableManager::KesDialableManager(Generation& owner)
+    : generation(owner), strategies(new TextKeyMap<Poco::AutoPtr<KesDialable>>) {
     if (Logger::m_Traces)
         logger->debug("KesDialableManager()");
 }
@@ -46,6 +55,8 @@ KesDialable* KesDialableManager::loadDialableClass(std::string countryNumber) {
                                             : "loadDialableClass('" + countryNumber + "')");
     if (countryNumber.empty())
         return nullptr;
+    const MakingFor making(
+        generation); // the strategy reads its file, and later the store, of this generation
     Poco::AutoPtr<KesDialable> strategy(KesDialableFactory::CreateInstance(countryNumber));
     return strategies->insert(countryNumber, strategy).get();
 }

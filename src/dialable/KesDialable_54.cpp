@@ -1,5 +1,8 @@
 #include "numbering/KesDialable_54.h"
 
+#include "cnp/PlanCache.h"
+#include "lifecycle/Conversion.h"
+
 #include "numbering/KesCNPManager.h"
 #include "numbering/KesCNP_54.h"
 #include "numbering/KesCountryRuleItem.h"
@@ -34,7 +37,8 @@ std::string KesDialable_54::MakeLocalOrLongDistDialableNumber(std::string& areaN
     full += areaNatPfx;
     full += number;
     // Without the Argentine plan (or an installation to compare with) there is nothing to split by.
-    auto* plan = dynamic_cast<KesCNP_54*>(KesCNPManager::getInstance()->getCNP("AR"));
+    const Conversion conversion(owner);
+    auto* plan = dynamic_cast<KesCNP_54*>(planCacheOf(conversion.generation()).getCNP("AR"));
     std::unique_ptr<KesCNP_54::StrippedNumber> stripped(
         plan != nullptr && dialRules != nullptr ? plan->StripNbr(full, dialRules) : nullptr);
     if (!stripped) {

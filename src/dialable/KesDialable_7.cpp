@@ -1,5 +1,8 @@
 #include "numbering/KesDialable_7.h"
 
+#include "config/Store.h"
+#include "lifecycle/Conversion.h"
+
 #include "numbering/KesCountryRuleItem.h"
 #include "numbering/KesNumberingConfig.h"
 #include "numbering/Logger.h"
@@ -18,7 +21,8 @@ std::string KesDialable_7::makeLongDistDialableNumber(std::string& areaNatPfx, s
     result += areaNatPfx;
     result += number;
     // Without an "RU" row there is no prefix to add rather than a record to dereference.
-    KesCountryRuleItem* russia = KesNumberingConfig::getInstance()->getCountryRule("RU");
+    const Conversion conversion(owner);
+    KesCountryRuleItem* russia = storeOf(conversion.generation()).findCountryRule("RU");
     std::string prefix = russia != nullptr ? russia->getLongDistPrefix() : std::string();
     if (prefix.size() + result.size() == 11)
         result.insert(0, prefix);

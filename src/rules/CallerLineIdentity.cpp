@@ -3,7 +3,8 @@
 #include "CanonicalParts.h"
 #include "ConversionGuard.h"
 #include "common/NumberText.h"
-#include "config/Configuration.h"
+#include "config/Store.h"
+#include "lifecycle/Conversion.h"
 #include "numbering/KesClid.h"
 #include "numbering/KesCountryRuleItem.h"
 #include "numbering/KesDialRulesItem.h"
@@ -18,7 +19,7 @@ namespace numbering {
 // area and subscriber from abroad; digits only.
 KesClid* KesNumberingRules::makeClid(KesDialRulesItem* myKesDialRulesItem, std::string strPhoneNumber) {
     requireArguments(myKesDialRulesItem, strPhoneNumber);
-    PinnedConfiguration pin; // the canonical form and the country rules from one configuration
+    const Conversion conversion; // the canonical form and the country rules from one configuration
     if (Logger::m_Traces)
         logger->debug("makeClid with : " + strPhoneNumber);
     std::string can = makeCanonicalNumber(myKesDialRulesItem, std::move(strPhoneNumber), "");
@@ -33,7 +34,8 @@ KesClid* KesNumberingRules::makeClid(KesDialRulesItem* myKesDialRulesItem, std::
     std::string sub;
     appendExtensionOf(can, sub);
 
-    KesCountryRuleItem* ownRule = pin.store()->findCountryRule(myKesDialRulesItem->getCountryId());
+    KesCountryRuleItem* ownRule =
+        storeOf(conversion.generation()).findCountryRule(myKesDialRulesItem->getCountryId());
     static const std::string none;
     const std::string& ownCn = ownRule == nullptr ? none : ownRule->countryNumberText();
     const std::string& ldp = ownRule == nullptr ? none : ownRule->longDistPrefixText();

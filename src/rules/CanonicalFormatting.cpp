@@ -4,7 +4,8 @@
 #include "ConversionGuard.h"
 #include "FacadeInternals.h"
 #include "common/NumberText.h"
-#include "config/Configuration.h"
+#include "config/Store.h"
+#include "lifecycle/Conversion.h"
 #include "numbering/KesCountryRuleItem.h"
 #include "numbering/KesNumberingConfig.h"
 #include "numbering/Logger.h"
@@ -14,12 +15,13 @@ namespace numbering {
 std::string KesNumberingRules::generateDefaultCanonicalNumber(std::string strPhoneNumber,
                                                               std::string strCountryCode,
                                                               std::string strAreaCode) {
-    PinnedConfiguration pin;
-    return defaultCanonicalNumber(std::move(strPhoneNumber), strCountryCode, strAreaCode);
+    const Conversion conversion;
+    return defaultCanonicalNumber(conversion.generation(), std::move(strPhoneNumber), strCountryCode,
+                                  strAreaCode);
 }
 
-std::string defaultCanonicalNumber(std::string strPhoneNumber, const std::string& strCountryCode,
-                                   std::string_view strAreaCode) {
+std::string defaultCanonicalNumber(Generation& generation, std::string strPhoneNumber,
+                                   const std::string& strCountryCode, std::string_view strAreaCode) {
     Logger* logger = KesNumberingRules::logger;
     if (Logger::m_Traces)
         logger->debug("generateDefaultCanonicalNumber('" + strPhoneNumber + "', '" + strCountryCode + "', '" +
@@ -27,7 +29,7 @@ std::string defaultCanonicalNumber(std::string strPhoneNumber, const std::string
     std::string result;
     KesCountryRuleItem* rule = strPhoneNumber.empty() || strCountryCode.empty()
                                    ? nullptr
-                                   : KesNumberingConfig::getInstance()->findCountryRule(strCountryCode);
+                                   : storeOf(generation).findCountryRule(strCountryCode);
     if (rule != nullptr) {
         const std::string& ldp = rule->longDistPrefixText();
         std::string& work = strPhoneNumber;
@@ -65,19 +67,20 @@ namespace {
 
 /// Whether `area` is the national prefix of the country with calling code `countryNumber`, which a
 /// mask's "a" leaves out. An unknown country has none.
-bool isNationalPrefix(std::string_view area, std::string_view countryNumber) {
-    KesCountryRuleItem* rule = KesNumberingConfig::getInstance()->findCountryRuleOfNumber(countryNumber);
+bool isNationalPrefix(KesNumberingConfig& store, std::string_view area, std::string_view countryNumber) {
+    KesCountryRuleItem* rule = store.findCountryRuleOfNumber(countryNumber);
     return rule != nullptr && area == rule->longDistPrefixText();
 }
 
 } // namespace
 
 std::string KesNumberingRules::formatCanonicalNumber(std::string strCanPhoneNumber, std::string strPattern) {
-    PinnedConfiguration pin;
-    return formatCanonical(strCanPhoneNumber, strPattern);
+    const Conversion conversion;
+    return formatCanonical(conversion.generation(), strCanPhoneNumber, strPattern);
 }
 
-std::string formatCanonical(const std::string& strCanPhoneNumber, const std::string& strPattern) {
+std::string formatCanonical(Generation& generation, const std::string& strCanPhoneNumber,
+                            const std::string& strPattern) {
     Logger* logger = KesNumberingRules::logger;
     if (Logger::m_Traces)
         logger->debug("formatCanonicalNumber('" + strCanPhoneNumber + "', '" + strPattern + "')");
@@ -95,8 +98,8 @@ std::string formatCanonical(const std::string& strCanPhoneNumber, const std::str
                 // A country without a mask gets the empty one, which keeps only the subscriber
                 // number: the shipped configuration has a mask for every calling code.
                 static const std::string noMask;
-                const std::string* mask = KesNumberingConfig::getInstance()->findDefaultPattern(
-                    trimmed(between(strCanPhoneNumber, 1, open)));
+                const std::string* mask =
+                    storeOf(generation).findDefaultPattern(trimmed(between(strCanPhoneNumber, 1, open)));
                 pattern = mask == nullptr ? &noMask : mask;
             }
             const CanonicalParts parts = readCanonical(strCanPhoneNumber, CanonicalReading::AtSeparators);
@@ -111,7 +114,8 @@ std::string formatCanonical(const std::string& strCanPhoneNumber, const std::str
                     result.append(parts.area);
                     break;
                 case 'a':
-                    if (!parts.area.empty() && !isNationalPrefix(parts.area, parts.country))
+                    if (!parts.area.empty() &&
+                        !isNationalPrefix(storeOf(generation), parts.area, parts.country))
                         result.append(parts.area);
                     break;
                 case 'x':

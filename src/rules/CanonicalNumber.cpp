@@ -3,8 +3,10 @@
 #include "CanonicalParts.h"
 #include "ConversionGuard.h"
 #include "FacadeInternals.h"
+#include "cnp/PlanCache.h"
 #include "common/NumberText.h"
-#include "config/Configuration.h"
+#include "config/Store.h"
+#include "lifecycle/Conversion.h"
 #include "numbering/KesCNP.h"
 #include "numbering/KesCNPManager.h"
 #include "numbering/KesCountryRuleItem.h"
@@ -30,6 +32,7 @@ struct NumberKind {
     std::string number;      // the number to put in canonical form
     std::string countryCode; // the country it belongs to, "" when unknown
     bool known = false;      // recognised as international or national
+    Generation& generation;  // the configuration the conversion pinned
     KesDialRulesItem* installation;
     /// The rules of another country's national number: KesDialRulesItem(countryCode, "", 0, "", 0,
     /// ""), no outside-line prefix and no area code. A code the store gave is valid, as the
@@ -37,7 +40,7 @@ struct NumberKind {
     /// less than half a percent of a conversion's instructions.
     std::optional<KesDialRulesItem> destination;
 
-    explicit NumberKind(KesDialRulesItem* rules) : installation(rules) {}
+    NumberKind(Generation& pinned, KesDialRulesItem* rules) : generation(pinned), installation(rules) {}
 
     /// The rules that read the number: the installation's, or the destination country's.
     KesDialRulesItem* rules() { return destination ? &*destination : installation; }
@@ -85,9 +88,9 @@ std::string cleanNationalNumber(std::string_view strValid, bool& serviceCode) {
 /// nationally as well; calling another country drops it.
 void readInternationalPrefix(NumberKind& kind, const std::string& strPhoneNumber, const std::string& digits,
                              const std::string& internatPfx, KesCountryRuleItem* countryRule) {
-    KesNumberingConfig* config = KesNumberingConfig::getInstance();
+    KesNumberingConfig* config = &storeOf(kind.generation);
     Logger* logger = KesNumberingRules::logger;
-    KesDialable* dialable = requireDialable(countryRule->countryNumberText());
+    KesDialable* dialable = requireDialable(kind.generation, countryRule->countryNumberText());
     const std::string opPrefix = dialable->extractOperatorPrefix(digits.substr(internatPfx.size()));
     const std::string::size_type skip = internatPfx.size() + opPrefix.size();
     const std::string afterPrefixes = digits.substr(skip);
@@ -136,7 +139,7 @@ bool isNationalByPrefix(const std::string& strPhoneNumber, KesCountryRuleItem* c
 /// A number in international form: its calling code names the country, and the rest is written as
 /// that country dials it nationally, so that the country's plan can take it from there.
 void readInternationalForm(NumberKind& kind, std::string_view strValid) {
-    KesNumberingConfig* config = KesNumberingConfig::getInstance();
+    KesNumberingConfig* config = &storeOf(kind.generation);
     std::string_view countryNumber = countryNumberOf(strValid);
     const std::string* countryCode;
     if (countryNumber.empty()) {
@@ -161,7 +164,7 @@ void readInternationalForm(NumberKind& kind, std::string_view strValid) {
     kind.takeDestination(*countryCode);
     KesCountryRuleItem* countryRule = requireCountryRule(config, kind.countryCode);
     std::string noArea;
-    kind.number = requireDialable(std::string(countryNumber))
+    kind.number = requireDialable(kind.generation, std::string(countryNumber))
                       ->makeLongDistDialableNumber(noArea, national, countryRule, kind.rules());
 }
 
@@ -196,7 +199,7 @@ bool tellKind(NumberKind& kind, const std::string& typed, std::string_view strVa
         return false;
     }
     kind.countryCode = kind.installation->getCountryId();
-    KesCountryRuleItem* countryRule = requireCountryRule(KesNumberingConfig::getInstance(), kind.countryCode);
+    KesCountryRuleItem* countryRule = requireCountryRule(&storeOf(kind.generation), kind.countryCode);
     const std::string& internatPfx = countryRule->internatPfxText();
     // The prefix tests look at the number as typed, not at its digits.
     if (outsideLinePrefixNeeded(*kind.installation, typed)) {
@@ -235,9 +238,9 @@ std::string canonicalByGenericRules(NumberKind& kind, std::string_view strAreaCo
     if (Logger::m_Traces)
         logger->debug("No special format defined for country " + kind.countryCode);
     if (internationalForm)
-        return defaultCanonicalNumber(std::move(kind.number), kind.countryCode, strAreaCode);
+        return defaultCanonicalNumber(kind.generation, std::move(kind.number), kind.countryCode, strAreaCode);
     if (kind.known)
-        return defaultCanonicalNumber(std::move(kind.number), kind.countryCode, "");
+        return defaultCanonicalNumber(kind.generation, std::move(kind.number), kind.countryCode, "");
     if (Logger::m_Traces)
         logger->debug("Can't translate to a canonical phone number : we don't known if '" + kind.number +
                       "' is a local or national phone number");
@@ -251,7 +254,7 @@ std::string canonicalForm(NumberKind& kind, std::string_view strValid, std::stri
                           bool internationalForm) {
     if (kind.countryCode.empty())
         return std::string(strValid);
-    KesCNP* plan = KesCNPManager::getInstance()->getCNP(kind.countryCode);
+    KesCNP* plan = planCacheOf(kind.generation).getCNP(kind.countryCode);
     KesDialRulesItem* rules = kind.rules();
     if ((rules->isLocalNumber(kind.number) || rules->isExceptionNumber(kind.number)) &&
         !startsWith(kind.number, rules->getExtPrefix()) && !internationalForm) {
@@ -275,7 +278,7 @@ std::string KesNumberingRules::makeCanonicalNumber(KesDialRulesItem* myKesDialRu
                                                    std::string strPhoneNumber, std::string strPattern,
                                                    bool withExternalPrefix) {
     requireArguments(myKesDialRulesItem, strPhoneNumber);
-    PinnedConfiguration pin;
+    const Conversion conversion;
     auto convert = [&]() -> std::string {
         if (contains(strPhoneNumber, "***"))
             return strPhoneNumber;
@@ -297,12 +300,12 @@ std::string KesNumberingRules::makeCanonicalNumber(KesDialRulesItem* myKesDialRu
         const std::string_view strAreaCode =
             internationalForm || Logger::m_Traces ? areaCodeOrNatPrefixOf(strValid) : std::string_view();
 
-        NumberKind kind(myKesDialRulesItem);
+        NumberKind kind(conversion.generation(), myKesDialRulesItem);
         if (!tellKind(kind, strPhoneNumber, strValid, internationalForm))
             return std::move(kind.number);
         std::string canonical = canonicalForm(kind, strValid, strAreaCode, internationalForm);
         if (firstCharacter(canonical) == '+')
-            return formatCanonical(canonical, strPattern);
+            return formatCanonical(conversion.generation(), canonical, strPattern);
         return canonical;
     };
     return guardConversion(convert, [&](const char* what) {

@@ -5,6 +5,7 @@
 // std::invalid_argument is the only error that reaches the host; the look-ups a conversion cannot
 // do without; and the handlers that turn any other error into one logged line and a fallback result.
 
+#include "dialable/StrategyCache.h"
 #include "numbering/KesCountryRuleItem.h"
 #include "numbering/KesDialRulesItem.h"
 #include "numbering/KesDialable.h"
@@ -36,9 +37,9 @@ inline KesCountryRuleItem* requireCountryRule(KesNumberingConfig* config, std::s
     return rule;
 }
 
-/// The dialing strategy of `countryNumber`; a row without a calling code has none.
-inline KesDialable* requireDialable(const std::string& countryNumber) {
-    KesDialable* dialable = KesDialableManager::getInstance()->getDialable(countryNumber);
+/// The dialing strategy of `countryNumber` in `generation`; a row without a calling code has none.
+inline KesDialable* requireDialable(Generation& generation, const std::string& countryNumber) {
+    KesDialable* dialable = strategyCacheOf(generation).getDialable(countryNumber);
     if (dialable == nullptr)
         throw std::invalid_argument("no dialing strategy for country number '" + countryNumber + "'");
     return dialable;

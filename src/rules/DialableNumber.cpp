@@ -4,7 +4,8 @@
 #include "ConversionGuard.h"
 #include "FacadeInternals.h"
 #include "common/NumberText.h"
-#include "config/Configuration.h"
+#include "config/Store.h"
+#include "lifecycle/Conversion.h"
 #include "numbering/KesCountryRuleItem.h"
 #include "numbering/KesDialRulesItem.h"
 #include "numbering/KesDialable.h"
@@ -18,13 +19,14 @@ namespace numbering {
 
 std::string KesNumberingRules::makeDialableNumber(KesDialRulesItem* myKesDialRulesItem,
                                                   std::string strCanPhoneNumber) {
-    PinnedConfiguration pin;
+    const Conversion conversion;
+    Generation& generation = conversion.generation();
     const std::string countryId = myKesDialRulesItem->getCountryId();
     const std::vector<std::string>& areaCodes = myKesDialRulesItem->getAreaCodesList();
     if (Logger::m_Traces)
         logger->debug("makeDialableNumber('" + countryId + "', '" +
                       (areaCodes.empty() ? "" : areaCodes.front()) + "', '" + strCanPhoneNumber + "')");
-    KesCountryRuleItem* countryRule = pin.store()->findCountryRule(countryId);
+    KesCountryRuleItem* countryRule = storeOf(generation).findCountryRule(countryId);
     if (countryRule == nullptr) {
         if (Logger::m_Traces)
             logger->debug("KesNumberingRules:makePhoneNumber no rules defined for this country : " +
@@ -47,7 +49,7 @@ std::string KesNumberingRules::makeDialableNumber(KesDialRulesItem* myKesDialRul
                       number + "'");
     // The installation's country chooses the strategy, never the destination's.
     const std::string& countryNumber = countryRule->countryNumberText();
-    KesDialable* dialable = requireDialable(countryNumber);
+    KesDialable* dialable = requireDialable(generation, countryNumber);
     // A number too long to be dialled, or one without a subscriber number, has no dialable form.
     if (strCanPhoneNumber.size() >=
             static_cast<std::string::size_type>(KesNumberingConfig::MAX_PHONE_NUMBER_LENGTH) ||

@@ -5,6 +5,7 @@
 // conversion copies no number only to hand it on. The public operations of the same names wrap them.
 
 #include "common/NumberText.h"
+#include "lifecycle/Generation.h"
 #include "numbering/KesDialRulesItem.h"
 #include "numbering/KesNumberingRules.h"
 
@@ -33,14 +34,15 @@ inline bool outsideLinePrefixNeeded(KesDialRulesItem& rules, const std::string& 
 }
 
 /// generateDefaultCanonicalNumber.
-std::string defaultCanonicalNumber(std::string strPhoneNumber, const std::string& strCountryCode,
-                                   std::string_view strAreaCode);
+std::string defaultCanonicalNumber(Generation& generation, std::string strPhoneNumber,
+                                   const std::string& strCountryCode, std::string_view strAreaCode);
 
 /// formatCanonicalNumber.
-std::string formatCanonical(const std::string& strCanPhoneNumber, const std::string& strPattern);
+std::string formatCanonical(Generation& generation, const std::string& strCanPhoneNumber,
+                            const std::string& strPattern);
 
 /// formatToGSMCanonicalNumber.
-std::string formatToGsm(const std::string& strCanPhoneNumber);
+std::string formatToGsm(Generation& generation, const std::string& strCanPhoneNumber);
 
 } // namespace numbering
 

@@ -4,7 +4,8 @@
 #include "ConversionGuard.h"
 #include "FacadeInternals.h"
 #include "common/NumberText.h"
-#include "config/Configuration.h"
+#include "config/Store.h"
+#include "lifecycle/Conversion.h"
 #include "numbering/KesCountryRuleItem.h"
 #include "numbering/KesNumberingConfig.h"
 #include "numbering/Logger.h"
@@ -15,20 +16,20 @@ namespace numbering {
 
 std::string KesNumberingRules::makeGSMCanonicalNumber(KesDialRulesItem* myKesDialRulesItem,
                                                       std::string strPhoneNumber, bool withExternalPrefix) {
-    PinnedConfiguration pin; // the canonical form and its GSM form from one configuration
+    const Conversion conversion; // the canonical form and its GSM form from one configuration
     std::string can =
         makeCanonicalNumber(myKesDialRulesItem, std::move(strPhoneNumber), "", withExternalPrefix);
     if (startsWith(can, '+'))
-        return formatToGsm(can);
+        return formatToGsm(conversion.generation(), can);
     return can;
 }
 
 std::string KesNumberingRules::formatToGSMCanonicalNumber(std::string strCanPhoneNumber) {
-    PinnedConfiguration pin;
-    return formatToGsm(strCanPhoneNumber);
+    const Conversion conversion;
+    return formatToGsm(conversion.generation(), strCanPhoneNumber);
 }
 
-std::string formatToGsm(const std::string& strCanPhoneNumber) {
+std::string formatToGsm(Generation& generation, const std::string& strCanPhoneNumber) {
     Logger* logger = KesNumberingRules::logger;
     if (Logger::m_Traces)
         logger->debug("formatToGSMCanonicalNumber('" + strCanPhoneNumber + "'");
@@ -44,8 +45,7 @@ std::string formatToGsm(const std::string& strCanPhoneNumber) {
         [&]() -> std::string {
             const CanonicalParts parts = readCanonical(strCanPhoneNumber, CanonicalReading::AtSeparators);
             std::string_view area = parts.area;
-            KesCountryRuleItem* rule =
-                KesNumberingConfig::getInstance()->findCountryRuleOfNumber(parts.country);
+            KesCountryRuleItem* rule = storeOf(generation).findCountryRuleOfNumber(parts.country);
             // A national prefix in the parentheses is dropped, a real area code is kept.
             if (rule != nullptr && rule->longDistPrefixText() == area)
                 area = std::string_view();

@@ -1,10 +1,15 @@
 #include "numbering/KesNumberingRules.h"
 
-#include "config/Configuration.h"
+#include "cnp/PlanCache.h"
+#include "config/PropertyFiles.h"
+#include "config/Store.h"
+#include "lifecycle/Conversion.h"
+#include "numbering/KesCNPManager.h"
+#include "numbering/KesDialableManager.h"
 #include "numbering/KesNumberingConfig.h"
 #include "numbering/Logger.h"
 
-#include <atomic>
+#include <algorithm>
 #include <mutex>
 #include <typeinfo>
 
@@ -17,80 +22,83 @@ Logger* KesNumberingRules::logger = Logger::getLogger(typeid(KesNumberingRules).
 std::string KesNumberingRules::TELEPHONENUMBER_SPECIAL_CHARACTER = "*#ABCD";
 std::string KesNumberingRules::TELEPHONENUMBER_FORMAT_CHARACTER = " ()-.";
 
+// The class has no virtual destructor; the singleton is always made by getInstance() as a
+// KesNumberingRules itself, so the destructor called here is the right one.
+template <> void Singleton<KesNumberingRules>::destroyObject(KesNumberingRules* gone) {
+#pragma GCC diagnostic push
+#pragma GCC diagnostic ignored "-Wdelete-non-virtual-dtor"
+    delete gone;
+#pragma GCC diagnostic pop
+}
+
 namespace {
 
-/// The facade, published for getInstance()'s look-up without a lock; `instance` mirrors it.
-std::atomic<KesNumberingRules*> facade{nullptr};
-
-/// Keeps `config` on the current store when a reload replaces it.
-void followCurrentStore() {
-    if (KesNumberingRules::instance != nullptr)
-        KesNumberingRules::config = KesNumberingConfig::instance;
+/// A reloaded generation reads every file it may need now, and its store at once: plans and
+/// strategies are still made on first use, from the files as they were at the reload.
+void readAtReload(Generation& fresh) {
+    std::vector<std::string> names = storeFileNames();
+    for (std::string& name : planFileNames())
+        names.push_back(std::move(name));
+    fresh.takeFiles(readFiles(fresh.directory, names));
+    storeOf(fresh);
 }
 
 } // namespace
 
 KesNumberingRules* KesNumberingRules::getInstance() {
-    if (KesNumberingRules* made = facade.load(std::memory_order_acquire))
-        return made;
-    std::lock_guard<std::recursive_mutex> lock(Configuration::lifecycle());
-    if (instance == nullptr) {
-        instance = new KesNumberingRules();
-        facade.store(instance, std::memory_order_release);
-    }
-    return instance;
+    return &Generation::facade().getOrMake([] { return new KesNumberingRules(); }, true);
 }
 
 void KesNumberingRules::resetInstance() {
     if (Logger::m_Traces)
         logger->debug("Releasing resources");
-    std::lock_guard<std::recursive_mutex> lock(Configuration::lifecycle());
-    // The configuration drops its plan and strategy caches before the store they were built from.
+    std::lock_guard<std::recursive_mutex> lock(lifecycleMutex());
+    KesCNPManager::resetInstance();
+    KesDialableManager::resetInstance();
     KesNumberingConfig::resetInstance();
+    std::vector<KesNumberingConfig**>& storeShownAt = Singleton<KesNumberingConfig>::alsoShownAt();
+    storeShownAt.erase(std::remove(storeShownAt.begin(), storeShownAt.end(), &config), storeShownAt.end());
     config = nullptr;
-    facade.store(nullptr, std::memory_order_release);
-    // The class has no virtual destructor; the singleton is always made by getInstance() as a
-    // KesNumberingRules itself, so the destructor called here is the right one.
-#pragma GCC diagnostic push
-#pragma GCC diagnostic ignored "-Wdelete-non-virtual-dtor"
-    delete instance;
-#pragma GCC diagnostic pop
-    instance = nullptr;
+    Generation::facade().drop();
 }
 
 void KesNumberingRules::reload() {
-    Configuration::reload(nullptr, followCurrentStore);
+    Generation::reload(nullptr, readAtReload);
 }
 
 void KesNumberingRules::reload(const std::string& configDirectory) {
-    Configuration::reload(&configDirectory, followCurrentStore);
+    Generation::reload(&configDirectory, readAtReload);
 }
 
 KesNumberingRules::KesNumberingRules() {
     if (Logger::m_Traces)
         logger->debug("KesNumberingRules()");
-    if (config == nullptr)
+    std::lock_guard<std::recursive_mutex> lock(lifecycleMutex());
+    if (config == nullptr) {
+        // From now on `config` shows the current store, as KesNumberingConfig::instance does.
+        Singleton<KesNumberingConfig>::alsoShownAt().push_back(&config);
         config = KesNumberingConfig::getInstance();
+    }
 }
 
 std::vector<std::string> KesNumberingRules::getCountryList() {
-    PinnedConfiguration pin;
-    return pin.store()->getCountryList();
+    const Conversion conversion;
+    return storeOf(conversion.generation()).getCountryList();
 }
 
 std::string KesNumberingRules::getCountryCode(std::string countryName) {
-    PinnedConfiguration pin;
-    return pin.store()->getCountryCodeFromName(std::move(countryName));
+    const Conversion conversion;
+    return storeOf(conversion.generation()).getCountryCodeFromName(std::move(countryName));
 }
 
 std::string KesNumberingRules::getCountryName(std::string countryCode) {
-    PinnedConfiguration pin;
-    return pin.store()->getCountryName(std::move(countryCode));
+    const Conversion conversion;
+    return storeOf(conversion.generation()).getCountryName(std::move(countryCode));
 }
 
 std::string KesNumberingRules::getCountryCodeFromNumber(std::string countryNumber) {
-    PinnedConfiguration pin;
-    return pin.store()->getCountryCodeFromNumber(std::move(countryNumber));
+    const Conversion conversion;
+    return storeOf(conversion.generation()).getCountryCodeFromNumber(std::move(countryNumber));
 }
 
 } // namespace numbering

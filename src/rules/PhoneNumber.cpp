@@ -3,7 +3,7 @@
 #include "ConversionGuard.h"
 #include "FacadeInternals.h"
 #include "common/NumberText.h"
-#include "config/Configuration.h"
+#include "lifecycle/Conversion.h"
 #include "numbering/KesDialRulesItem.h"
 #include "numbering/Logger.h"
 
@@ -53,7 +53,7 @@ std::string dialledConversion(const char* operation, KesDialRulesItem* rules, st
     requireArguments(rules, number);
     if (contains(number, "***"))
         return std::move(number);
-    PinnedConfiguration pin;
+    const Conversion conversion; // the canonical and the dialled forms from one configuration
     Logger* logger = KesNumberingRules::logger;
     if (Logger::m_Traces)
         logger->debug(std::string(operation) + " with : " + number);

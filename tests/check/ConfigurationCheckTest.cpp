@@ -143,6 +143,11 @@ const BrokenConfiguration BROKEN[] = {
      "has 22 digits, more than the 21 the library accepts for +49"},
     {AREA_FILE, "Translate=1\nAC_0000=30a\n", NOTE, 2, "only '30' counts"},
     {AREA_FILE, AREA_CODES + "AC_12=5\n", WARNING, 5, "AC_12 is never read"},
+    {RULES_FILE, "# no row yet\n", ERROR, 0, "no row (a two-letter country code"},
+    {RULES_FILE, "fr=33:00:EF:0F:0F:France:P\nDE=4x:00:EF:0F::Germany:P\n", ERROR, 0,
+     "no usable row (a two-letter country code = calling code:international prefix:...): the library knows "
+     "no "
+     "country"},
     {OPERATORS_FILE, "OP_DEFAULT=9a\nOP_0000=5\n", ERROR, 1,
      "the default operator is dialled exactly as written"},
     // Missing files, with and without a default; installation files beside their defaults.
@@ -249,4 +254,56 @@ TEST_F(ConfigurationCheck, ForeseesWhereTheReaderGivesUpOnReferences) {
             checkFails = checkFails || finding.message.find("k0 cannot be read") != std::string::npos;
         EXPECT_EQ(checkFails, readerFails) << depth << " levels";
     }
+}
+
+/// `text` with every character widened to `width` bytes, as UTF-16 or UTF-32 write Latin text.
+std::string widened(const std::string& text, std::size_t width, bool bigEndian) {
+    std::string wide;
+    for (char c : text) {
+        const std::string zeros(width - 1, '\0');
+        wide += bigEndian ? zeros + c : c + zeros;
+    }
+    return wide;
+}
+
+// A text editor's encodings: one error that names it, none about the keys the reader garbles.
+TEST_F(ConfigurationCheck, FileInAnotherEncodingGivesOneErrorNamingIt) {
+    const std::pair<const char*, std::string> ENCODED[] = {
+        {"UTF-16 (little-endian)", "\xFF\xFE" + widened(MASKS, 2, false)},
+        {"UTF-16 (big-endian, without a byte-order mark)", widened(MASKS, 2, true)},
+        {"UTF-32 (little-endian)", std::string("\xFF\xFE\0\0", 4) + widened(MASKS, 4, false)},
+        {"UTF-8 byte-order mark", "\xEF\xBB\xBF" + MASKS},
+    };
+    for (const auto& [encoding, bytes] : ENCODED) {
+        testconfig::write(MASKS_FILE, bytes);
+        std::vector<KesConfigurationFinding> aboutMasks;
+        for (const KesConfigurationFinding& finding :
+             KesConfigurationCheck::check(testconfig::directory()).findings)
+            if (finding.file == testconfig::directory() + MASKS_FILE)
+                aboutMasks.push_back(finding);
+        ASSERT_EQ(aboutMasks.size(), 1u) << encoding << describe(aboutMasks);
+        EXPECT_EQ(aboutMasks[0].severity, ERROR);
+        EXPECT_NE(aboutMasks[0].message.find(encoding), std::string::npos) << aboutMasks[0].message;
+    }
+}
+
+// Ten keys skipped for one reason: three listed, the others counted in one finding.
+TEST_F(ConfigurationCheck, CountsWhatRepeatsBeyondAFew) {
+    std::string masks = MASKS;
+    for (int i = 0; i < 10; ++i)
+        masks += "Mask_7" + std::to_string(i) + "=+C x\n";
+    testconfig::write(MASKS_FILE, masks);
+    const KesConfigurationReport report = KesConfigurationCheck::check(testconfig::directory());
+    std::vector<std::string> messages;
+    for (const KesConfigurationFinding& finding : report.findings)
+        messages.push_back(finding.message +
+                           (finding.alike > 0 ? " [" + std::to_string(finding.alike) + "]" : ""));
+    const std::string skipped =
+        " is skipped: no '_' follows the calling code (write Mask_<calling code>_<suffix>, "
+        "such as Mask_33_1)";
+    EXPECT_EQ(messages,
+              (std::vector<std::string>{"Mask_70" + skipped, "Mask_71" + skipped, "Mask_72" + skipped,
+                                        "and 7 more like it, not listed one by one [7]"}));
+    EXPECT_EQ(report.count(WARNING), 10);
+    EXPECT_EQ(report.count(ERROR), 0);
 }

@@ -5,12 +5,15 @@
 
 #include "numbering/KesAreaCodeTree.h"
 #include "numbering/KesCNP.h"
+#include "numbering/KesCNPManager.h"
 #include "numbering/KesCharsTreeElement.h"
 #include "numbering/KesClid.h"
 #include "numbering/KesConfigurationCheck.h"
 #include "numbering/KesCountryRuleItem.h"
 #include "numbering/KesDialRulesItem.h"
 #include "numbering/KesDialable.h"
+#include "numbering/KesDialableManager.h"
+#include "numbering/KesNumberingConfig.h"
 #include "numbering/KesNumberingRules.h"
 
 #include <gtest/gtest.h>
@@ -119,17 +122,23 @@ namespace {
 /// A copy of the shipped configuration in a directory of its own, with some files replaced.
 class ConfigurationCopy {
 public:
-    ConfigurationCopy(const std::string& name, const std::vector<std::pair<std::string, std::string>>& files)
+    using Files = std::vector<std::pair<std::string, std::string>>;
+
+    ConfigurationCopy(const std::string& name, const Files& files)
         : path(fs::temp_directory_path() /
                ("numbering-concurrency-" + std::to_string(getpid()) + "-" + name)) {
         fs::create_directories(path);
         for (const fs::directory_entry& entry : fs::directory_iterator(NUMBERING_SHIPPED_DATA))
             fs::copy_file(entry.path(), path / entry.path().filename(), fs::copy_options::overwrite_existing);
-        for (const auto& file : files)
-            std::ofstream(path / file.first) << file.second;
+        write(files);
     }
     ~ConfigurationCopy() { fs::remove_all(path); }
     std::string directory() const { return path.string() + "/"; }
+    /// Replaces the content of `files`.
+    void write(const Files& files) const {
+        for (const auto& file : files)
+            std::ofstream(path / file.first) << file.second;
+    }
 
 private:
     fs::path path;
@@ -172,61 +181,140 @@ std::vector<std::vector<std::string>> convertAll() {
 
 } // namespace
 
-TEST(ConcurrentConversions, ReloadsUnderLoadNeverMixTwoConfigurations) {
-    ConfigurationCopy a("a",
-                        {{"dlr_cnp_mask.properties", "Mask_33_1=+C (a) x xx xx xx xx\nMask_49_1=+C (A) x\n"
-                                                     "Mask_44_1=+C (A) x\nMask_1_1=+C (A) x\n"},
-                         {"tz310cnp_49.properties", "Translate=1\nAC_0000=30\nAC_0001=89\n"}});
-    ConfigurationCopy b("b",
-                        {{"dlr_cnp_mask.properties", "Mask_33_1=+C (a) xxxxxxxxx\nMask_49_1=+C (A) xx xx x\n"
-                                                     "Mask_44_1=+C (A) xx x\nMask_1_1=+C (A) xxx x\n"},
-                         {"tz310cnp_49.properties", "Translate=1\nAC_0000=30\nAC_0001=891\n"},
-                         {"dialingrules.properties", dialingRulesWithFrenchPrefix("000")}});
-    KesNumberingRules::reload(a.directory());
-    const auto inA = convertAll();
-    KesNumberingRules::reload(b.directory());
-    const auto inB = convertAll();
-    for (std::size_t i = 0; i < inA.size(); ++i) {
-        EXPECT_NE(inA[i], inB[i]) << RELOADED[i].number;
-        for (std::size_t form = 0; form < inA[i].size(); ++form)
-            EXPECT_FALSE(inA[i][form].empty() || inB[i][form].empty()) << RELOADED[i].number;
+namespace {
+
+const ConfigurationCopy::Files VARIANT_A = {
+    {"dlr_cnp_mask.properties", "Mask_33_1=+C (a) x xx xx xx xx\nMask_49_1=+C (A) x\n"
+                                "Mask_44_1=+C (A) x\nMask_1_1=+C (A) x\n"},
+    {"tz310cnp_49.properties", "Translate=1\nAC_0000=30\nAC_0001=89\n"},
+    {"dialingrules.properties", dialingRulesWithFrenchPrefix("00")}};
+const ConfigurationCopy::Files VARIANT_B = {
+    {"dlr_cnp_mask.properties", "Mask_33_1=+C (a) xxxxxxxxx\nMask_49_1=+C (A) xx xx x\n"
+                                "Mask_44_1=+C (A) xx x\nMask_1_1=+C (A) xxx x\n"},
+    {"tz310cnp_49.properties", "Translate=1\nAC_0000=30\nAC_0001=891\n"},
+    {"dialingrules.properties", dialingRulesWithFrenchPrefix("000")}};
+
+/// Threads converting the RELOADED numbers until told to stop, each result checked against the
+/// answers of the configurations it may meet.
+class Converters {
+public:
+    explicit Converters(std::vector<std::vector<std::vector<std::string>>> answers)
+        : answers(std::move(answers)) {
+        for (int t = 0; t < THREADS; ++t)
+            threads.emplace_back([this, t] { run(t); });
     }
 
-    std::atomic<bool> reloading{true};
+    /// Stops the threads; every result they saw that none of the answers holds.
+    std::vector<std::string> stop() {
+        converting = false;
+        for (std::thread& thread : threads)
+            thread.join();
+        EXPECT_GT(conversions.load(), THREADS);
+        return unexpected;
+    }
+
+private:
+    void run(int t) {
+        const std::size_t count = sizeof RELOADED / sizeof RELOADED[0];
+        for (std::size_t i = static_cast<std::size_t>(t) % count; converting.load(); i = (i + 1) % count) {
+            // A pause now and then leaves the reloading thread some of the two cores.
+            if (i == 0)
+                std::this_thread::sleep_for(std::chrono::microseconds(100));
+            const std::vector<std::string> forms = convertOnce(RELOADED[i]);
+            ++conversions;
+            for (std::size_t form = 0; form < forms.size(); ++form)
+                if (std::none_of(answers.begin(), answers.end(),
+                                 [&](const auto& answer) { return answer[i][form] == forms[form]; })) {
+                    std::lock_guard<std::mutex> lock(unexpectedMutex);
+                    unexpected.push_back(forms[form]);
+                }
+        }
+    }
+
+    const std::vector<std::vector<std::vector<std::string>>> answers;
+    std::atomic<bool> converting{true};
     std::atomic<int> conversions{0};
     std::vector<std::string> unexpected;
     std::mutex unexpectedMutex;
     std::vector<std::thread> threads;
-    for (int t = 0; t < THREADS; ++t)
-        threads.emplace_back([&, t] {
-            const std::size_t count = sizeof RELOADED / sizeof RELOADED[0];
-            for (std::size_t i = static_cast<std::size_t>(t) % count; reloading.load(); i = (i + 1) % count) {
-                // A pause now and then leaves the reloading thread some of the two cores.
-                if (i == 0)
-                    std::this_thread::sleep_for(std::chrono::microseconds(100));
-                const std::vector<std::string> forms = convertOnce(RELOADED[i]);
-                ++conversions;
-                for (std::size_t form = 0; form < forms.size(); ++form)
-                    if (forms[form] != inA[i][form] && forms[form] != inB[i][form]) {
-                        std::lock_guard<std::mutex> lock(unexpectedMutex);
-                        unexpected.push_back(forms[form]);
-                    }
-            }
-        });
-    std::thread reloader([&] {
-        for (int n = 0; n < 100; ++n)
-            KesNumberingRules::reload(n % 2 == 0 ? a.directory() : b.directory());
-        reloading = false;
-    });
-    reloader.join();
-    for (std::thread& thread : threads)
-        thread.join();
+};
 
+} // namespace
+
+// Each reload takes the files as they are at that moment, however soon after it they change: the
+// next variant is written over the directory as soon as a reload returns, while plans that read
+// their files on first use are still to be built.
+TEST(ConcurrentConversions, EachReloadIsTheFilesOfItsMoment) {
+    ConfigurationCopy world("rewritten", VARIANT_A);
+    KesNumberingRules::reload(world.directory());
+    const auto inA = convertAll();
+    world.write(VARIANT_B);
+    KesNumberingRules::reload(world.directory());
+    const auto inB = convertAll();
+    for (std::size_t i = 0; i < inA.size(); ++i)
+        EXPECT_NE(inA[i], inB[i]) << RELOADED[i].number;
+
+    Converters converters({inA, inB});
+    for (int n = 0; n < 1000; ++n) {
+        KesNumberingRules::reload();
+        world.write(n % 2 == 0 ? VARIANT_A : VARIANT_B);
+    }
+    const std::vector<std::string> unexpected = converters.stop();
     EXPECT_TRUE(unexpected.empty()) << unexpected.size()
                                     << " mixed results, the first: " << unexpected.front();
-    EXPECT_GT(conversions.load(), THREADS);
-    EXPECT_EQ(convertAll(), inB) << "the last reload read the second directory";
+    EXPECT_EQ(convertAll(), inA) << "the last reload took the first variant, written before it";
     KesNumberingRules::reload(std::string()); // back to the directory of the start
+    expectEverythingReleased();
+}
+
+// Reloads from several threads at once while the files stay put: the answers never change.
+TEST(ConcurrentConversions, ConcurrentReloadsOfTheSameFiles) {
+    ConfigurationCopy world("still", VARIANT_B);
+    KesNumberingRules::reload(world.directory());
+    const auto answers = convertAll();
+    Converters converters({answers});
+    std::vector<std::thread> reloaders;
+    for (int t = 0; t < 2; ++t)
+        reloaders.emplace_back([] {
+            for (int n = 0; n < 100; ++n)
+                KesNumberingRules::reload();
+        });
+    for (std::thread& reloader : reloaders)
+        reloader.join();
+    const std::vector<std::string> unexpected = converters.stop();
+    EXPECT_TRUE(unexpected.empty()) << unexpected.size()
+                                    << " other results, the first: " << unexpected.front();
+    KesNumberingRules::reload(std::string());
+    expectEverythingReleased();
+}
+
+// A host holds a cache across a reset of the store alone: the cache, its plans and strategies and
+// its memory of failed countries stay; only the store is read again.
+TEST(ConcurrentConversions, CachesHeldAcrossAResetOfTheStore) {
+    ConfigurationCopy world(
+        "held", {{"dialingrules.properties", "FR=33:00:F:F::France:P\nCO=57:00:F:F::Colombia:P\n"}});
+    KesNumberingRules::reload(world.directory());
+    KesCNPManager* plans = KesCNPManager::getInstance();
+    KesDialableManager* strategies = KesDialableManager::getInstance();
+    KesCNP* france = plans->getCNP("FR");
+    KesDialable* colombia = strategies->getDialable("57");
+    ASSERT_NE(france, nullptr);
+    EXPECT_EQ(plans->getCNP("DE"), nullptr) << "no German row yet";
+
+    world.write({{"dialingrules.properties", "FR=33:00:F:F::France:P\nDE=49:00:F:F::Germany:P\n"}});
+    KesNumberingConfig::resetInstance();
+    EXPECT_TRUE(KesNumberingConfig::getInstance()->validCountryCode("DE")) << "the store read the new file";
+    EXPECT_EQ(KesCNPManager::getInstance(), plans);
+    EXPECT_EQ(KesDialableManager::getInstance(), strategies);
+    EXPECT_EQ(plans->getCNP("FR"), france);
+    EXPECT_EQ(strategies->getDialable("57"), colombia);
+    EXPECT_EQ(plans->getCNP("DE"), nullptr) << "a failed country stays failed for the life of its manager";
+    EXPECT_TRUE(plans->isCountryNotFound("DE"));
+
+    KesCNPManager::resetInstance();
+    EXPECT_EQ(KesDialableManager::getInstance(), strategies) << "the strategies stay";
+    EXPECT_NE(KesCNPManager::getInstance()->getCNP("DE"), nullptr) << "a new manager tries again";
+    KesNumberingRules::reload(std::string());
     expectEverythingReleased();
 }
 

@@ -32,7 +32,8 @@ holds() {
 holds libnumbering2 "\./usr/lib/$multiarch/libNumbering\.so\.2\..*" "\./usr/share/doc/libnumbering2/copyright"
 holds libnumbering-dev "\./usr/lib/$multiarch/libNumbering\.so" "\./usr/include/numbering/Version\.h" \
     "\./usr/lib/$multiarch/cmake/Numbering/NumberingConfig\.cmake" "\./usr/lib/$multiarch/pkgconfig/numbering\.pc"
-holds numbering "\./usr/bin/numbering" "\./usr/share/numbering/dialingrules_default\.properties"
+holds numbering "\./usr/bin/numbering" "\./usr/share/numbering/dialingrules_default\.properties" \
+    "\./usr/share/numbering/sample_numbers\.txt"
 
 # The manual page comes with the tool's documentation; until its source is in the tree, lintian's
 # complaint about it is expected.
@@ -62,6 +63,11 @@ unset NUMBERING_CONFIG_DIR
 got=$(NUMBERING_CONFIG_DIR=$work/library "$root/usr/bin/numbering" -c FR dial "+49 (89) 123456")
 if [ "$got" != 0004989123456 ]; then
     echo "installed tool after numbering init: got '$got'"
+    failed=1
+fi
+# diff of the shipped and the initialised configuration converts the installed sample: nothing differs.
+if ! "$root/usr/bin/numbering" diff "$root/usr/share/numbering" "$work/library" </dev/null >/dev/null 2>&1; then
+    echo "installed tool: diff of the shipped configuration and its copy does not find them alike"
     failed=1
 fi
 # Under /usr the include and library directories are the system's: no -I, no -L.

@@ -5,22 +5,13 @@
 set -u
 tool=$1
 data=$2
-failures=0
-work=$(mktemp -d)
-trap 'rm -rf "$work"' EXIT
+. "$(dirname "$0")/common.sh"
 
-fail() {
-    printf 'FAIL: %s\n  stdout: %s\n  stderr: %s\n' "$1" "$out" "$err"
-    failures=$((failures + 1))
-}
-
-# check EXPECTED_STATUS NAME ARGS...: runs the tool and checks its exit status; sets out and err.
+# check EXPECTED_STATUS NAME ARGS...: runs the tool and checks its exit status; sets out, err, status.
 check() {
     local expected=$1 name=$2
     shift 2
-    out=$("$tool" "$@" 2>"$work/err")
-    status=$?
-    err=$(cat "$work/err")
+    run "$@"
     [ "$status" = "$expected" ] || fail "$name (exit status $status, wanted $expected)"
 }
 
@@ -28,7 +19,9 @@ check() {
 expect_line() { grep -qxF -- "$2" <<<"$out" || fail "$1: no line '$2'"; }
 
 check 0 "shipped configuration" check --config-dir "$data"
-[ -z "$out$err" ] || fail "the shipped configuration gives findings"
+[ -z "$out" ] || fail "the shipped configuration gives findings"
+[[ "$err" =~ ^"0 errors, 0 warnings, 0 notes in "[0-9]+" files: the configuration is clean"$ ]] ||
+    fail "the shipped configuration: no line saying that it is clean"
 NUMBERING_CONFIG_DIR=$data check 0 "shipped configuration through NUMBERING_CONFIG_DIR" check
 
 # Notes only: the installation file is in use, its default is not read.
@@ -43,17 +36,21 @@ printf 'cnp_1=on\ncnp_49=off\n' >"$work/notes/specific_format_activation.propert
 check 1 "warnings" check --config-dir "$work/notes"
 expect_line "warnings" "$work/notes/specific_format_activation.properties:2: warning: cnp_49 = off switches nothing off: the library keeps only the first valid switch of the file (cnp_1) and files it under calling code 0, so the plan of every calling code stays on"
 
-# Errors: an installation holding only the French mask.
+# Errors: an installation holding only the French mask. Three of the missing masks are listed, the
+# others counted, all of them in the summary.
 printf 'Mask_33_1=+C (A) x xx xx xx xx\n' >"$work/notes/dlr_cnp_mask.properties"
 check 2 "errors" check --config-dir "$work/notes"
-expect_line "errors" "$work/notes/dlr_cnp_mask.properties: error: no mask for +49 (DE): without one a canonical number keeps only its subscriber number, so \"+49 (89) 123456\" becomes \"123456\", which no longer names the country and is dialled as a local number"
+expect_line "errors" "$work/notes/dlr_cnp_mask.properties: error: no mask for +20 (EG): without one a canonical number keeps only its subscriber number, so \"+20 (89) 123456\" becomes \"123456\", which no longer names the country and is dialled as a local number"
+[ "$(grep -c 'error: no mask for' <<<"$out")" = 3 ] || fail "errors: not three missing masks listed"
+more=$(sed -n 's/^.*dlr_cnp_mask.properties: error: and \([0-9]*\) more like it, not listed one by one$/\1/p' <<<"$out")
+[ -n "$more" ] || fail "errors: no line counting the other missing masks"
+[ "$err" = "$((${more:-0} + 3)) errors, 2 warnings, 2 notes in 13 files" ] || fail "errors: summary"
+run --json check --config-dir "$work/notes"
+[ "$(json alike | tr ';' '\n' | grep -v '^-$')" = "$more" ] && [[ "$err" == "$((${more:-0} + 3)) errors,"* ]] ||
+    fail "--json errors: the counted line's alike, the summary as text on standard error"
 
 check 2 "an empty directory" check --config-dir "$work/empty-directory"
 check 2 "a number after check" check 0123456789
 [[ "$err" == *"check takes no number"* ]] || fail "a number after check"
 
-if [ "$failures" -ne 0 ]; then
-    echo "$failures check(s) failed"
-    exit 1
-fi
-echo "all checks passed"
+finish

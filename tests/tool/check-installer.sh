@@ -4,7 +4,7 @@
 #   check-installer.sh <numbering executable>
 set -u
 tool=$1
-source "$(dirname "$0")/running.sh"
+. "$(dirname "$0")/common.sh"
 export NUMBERING_CONFIG_DIR=$work/library
 
 # init: the library's directory is made and filled; a second run and a changed file keep what is there.
@@ -72,14 +72,7 @@ run --site "$work/missing.properties" dial 0123
 run --stdin $'0123456789\r\n0612345678\r\n' -c FR dial
 [ "$out" = $'0123456789\t00123456789\n0612345678\t00612345678' ] || fail "batch with CRLF line ends"
 
-# --json: every command's lines parse as JSON, with the members a script reads (one line each, ';' after).
-json() {
-    python3 -c '
-import json, sys
-for line in filter(str.strip, sys.stdin):
-    obj = json.loads(line)
-    print("|".join(str(obj.get(k, "-")) for k in sys.argv[1:]), end=";")' "$@" <<<"$out" 2>&1
-}
+# --json: every command's lines parse as JSON, with the members a script reads.
 batch=$'0123456789\r\nx"\\\n' # a CRLF line, and a quote and a backslash to escape
 while IFS='#' read -r args wanted; do
     eval "run --stdin \"\$batch\" --json $args" # args may quote a number with blanks
@@ -90,11 +83,17 @@ done <<'EOF_JSON'
 -c FR clid 0123456789#clid|0123456789|123456789|National|-;
 -c FR decompose '+33 (1) 23456789'#decompose|+33 (1) 23456789|{'country': '33', 'area': '1', 'subscriber': '23456789'}|-|-;
 EOF_JSON
+# check: the summary stays text on standard error, the site file counted among the files.
+run check --config-dir "$work/library"
+files=$(sed -n 's/^0 errors, 0 warnings, 0 notes in \([0-9]*\) files: the configuration is clean$/\1/p' <<<"$err")
 run --json check --site "$work/site.properties" --config-dir "$work/library"
-[ "$status" = 0 ] && [ "$(json command)" = "" ] || fail "--json check, clean"
+[ "$status" = 0 ] && [ "$(json command)" = "" ] && [ -n "$files" ] &&
+    [ "$err" = "0 errors, 0 warnings, 0 notes in $((${files:-0} + 1)) files: the configuration is clean" ] ||
+    fail "--json check, clean"
 printf 'country = DE\next_prefix = 0A\n' >"$work/site.properties"
 run --json check --site "$work/site.properties"
-[ "$(json command file line key severity)" = "check|$work/site.properties|2|ext_prefix|error;" ] || fail "--json check"
+[ "$(json command file line key severity)" = "check|$work/site.properties|2|ext_prefix|error;" ] &&
+    [ "$err" = "1 error, 0 warnings, 0 notes in $((${files:-0} + 1)) files" ] || fail "--json check"
 run --json init
 [ "$(json command result | tr ';' '\n' | sort -u)" = "init|kept" ] || fail "--json init"
 

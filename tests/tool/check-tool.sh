@@ -5,8 +5,7 @@
 set -u
 tool=$1
 data=$2
-tab=$'\t'
-source "$(dirname "$0")/running.sh"
+. "$(dirname "$0")/common.sh"
 export NUMBERING_CONFIG_DIR=$data
 
 run -c FR canonical "01 23 45 67 89"

@@ -7,7 +7,8 @@
 
 /// `numbering check`: prints the findings of the configuration check of `directory`, and with
 /// --site those of the site file's settings, one per line as "file:line: severity: message" (or as
-/// JSON lines), and returns the exit status (0 clean or notes only, 1 warnings, 2 errors).
+/// JSON lines), then a summary line on standard error (text with --json too), and returns the exit
+/// status (0 clean or notes only, 1 warnings, 2 errors).
 int runCheck(const std::string& directory, const Options& options);
 
 #endif

@@ -18,13 +18,13 @@ bool isDirectory(const std::string& path) {
     return stat(path.c_str(), &status) == 0 && S_ISDIR(status.st_mode);
 }
 
+} // namespace
+
 std::string withSlash(std::string directory) {
     if (!directory.empty() && directory.back() != '/')
         directory += '/';
     return directory;
 }
-
-} // namespace
 
 std::string shippedConfiguration() {
     char self[PATH_MAX];

@@ -5,6 +5,9 @@
 
 #include <string>
 
+/// `directory` ending in "/", as the library wants a configuration directory.
+std::string withSlash(std::string directory);
+
 /// The shipped configuration: beside an installed tool, else in the source tree it was built from.
 std::string shippedConfiguration();
 

@@ -4,23 +4,19 @@
 
 #include "Installation.h"
 #include "JsonLine.h"
+#include "Output.h"
 
 #include "numbering/KesClid.h"
 #include "numbering/KesDialRulesItem.h"
 #include "numbering/KesNumberingRules.h"
 
 #include <cctype>
-#include <cerrno>
 #include <cstdio>
-#include <cstdlib>
-#include <cstring>
 #include <iostream>
 #include <memory>
 #include <stdexcept>
 #include <string>
 #include <string_view>
-#include <unistd.h>
-#include <vector>
 
 using namespace numbering;
 
@@ -28,13 +24,35 @@ bool convertingNumbers = false;
 
 namespace {
 
-/// The result of one conversion in its parts: the number, and the origin (clid) or the country
-/// number, area code and subscriber number (decompose); none when the library could not convert it.
-using Parts = std::vector<std::string>;
+/// What the library trims from both ends of a number.
+const char* const BLANKS = " \t\n\v\f\r";
 
-Parts convert(const Options& options, KesNumberingRules* rules, KesDialRulesItem* installation,
-              const std::string& number) {
-    const std::string& command = options.command;
+} // namespace
+
+bool isBlank(std::string_view text) {
+    return text.find_first_not_of(BLANKS) == std::string_view::npos;
+}
+
+std::unique_ptr<KesDialRulesItem> makeInstallation(const Options& options, bool warnings) {
+    try {
+        const Installation settings = readInstallation(options);
+        bool refused = false;
+        for (const KesConfigurationFinding& finding : settings.findings) {
+            const bool error = finding.severity == KesConfigurationFinding::Severity::Error;
+            if (error || warnings)
+                std::cerr << "numbering: " << describe(finding) << "\n";
+            refused = refused || error;
+        }
+        if (!refused)
+            return settings.site.makeDialRulesItem();
+    } catch (const std::exception& e) { // a site file that cannot be opened
+        std::cerr << "numbering: " << e.what() << "\n";
+    }
+    return nullptr;
+}
+
+Parts convert(const std::string& command, const Options& options, KesNumberingRules* rules,
+              KesDialRulesItem* installation, const std::string& number) {
     auto one = [](std::string result) { return result.empty() ? Parts() : Parts{std::move(result)}; };
     if (command == "canonical")
         return one(rules->makeCanonicalNumber(installation, number, options.pattern));
@@ -58,6 +76,8 @@ Parts convert(const Options& options, KesNumberingRules* rules, KesDialRulesItem
     clid->release();
     return presented;
 }
+
+namespace {
 
 /// The result line: the parts separated by tabs, behind the input and a tab in batch mode.
 std::string textLine(const std::string* input, const Parts& parts) {
@@ -100,13 +120,6 @@ std::string quoted(std::string_view number) {
     return text + "'";
 }
 
-/// What the library trims from both ends of a number.
-const char* const BLANKS = " \t\n\v\f\r";
-
-bool isBlank(std::string_view text) {
-    return text.find_first_not_of(BLANKS) == std::string_view::npos;
-}
-
 /// Why the library gave no result for `number`, as far as the tool can tell.
 std::string whyNotConverted(const Options& options, const std::string& number) {
     if (isBlank(number))
@@ -125,55 +138,13 @@ std::string whyNotConverted(const Options& options, const std::string& number) {
            options.country + "; --trace shows why)";
 }
 
-/// Standard output in large blocks, written when full and at the end; line by line only to a
-/// terminal, where someone waits for each answer.
-class Output {
-public:
-    Output() : interactive(isatty(STDOUT_FILENO) == 1) { text.reserve(CAPACITY); }
-
-    /// Appends `line` and its end.
-    void line(const std::string& line) {
-        text += line;
-        text += '\n';
-        if (interactive || text.size() >= CAPACITY)
-            flush();
-    }
-
-    /// Writes what is held; a failed write (a full disk, a closed pipe) ends the tool.
-    void flush() {
-        if (!text.empty() && std::fwrite(text.data(), 1, text.size(), stdout) != text.size()) {
-            std::fprintf(stderr, "numbering: cannot write the results: %s\n", std::strerror(errno));
-            std::exit(2);
-        }
-        std::fflush(stdout);
-        text.clear();
-    }
-
-private:
-    static constexpr std::size_t CAPACITY = 1 << 16;
-    const bool interactive;
-    std::string text;
-};
-
 } // namespace
 
 int convertNumbers(const Options& options) {
     KesNumberingRules* rules = KesNumberingRules::getInstance();
-    std::unique_ptr<KesDialRulesItem> installation;
-    try {
-        const Installation settings = readInstallation(options);
-        bool refused = false;
-        for (const KesConfigurationFinding& finding : settings.findings) {
-            std::cerr << "numbering: " << describe(finding) << "\n";
-            refused = refused || finding.severity == KesConfigurationFinding::Severity::Error;
-        }
-        if (refused)
-            return 2;
-        installation = settings.site.makeDialRulesItem();
-    } catch (const std::exception& e) { // a site file that cannot be opened
-        std::cerr << "numbering: " << e.what() << "\n";
+    std::unique_ptr<KesDialRulesItem> installation = makeInstallation(options);
+    if (!installation)
         return 2;
-    }
 
     Output output;
     int failures = 0;
@@ -185,7 +156,7 @@ int convertNumbers(const Options& options) {
         if (!(batch && isBlank(number))) { // a blank line in a batch keeps its place, with no result
             convertingNumbers = true;
             try {
-                parts = convert(options, rules, installation.get(), number);
+                parts = convert(options.command, options, rules, installation.get(), number);
             } catch (const std::exception&) {
                 // only an empty number gets this far: whyNotConverted says so
             }
@@ -200,8 +171,8 @@ int convertNumbers(const Options& options) {
                 }
             }
         }
-        output.line(options.json ? jsonLine(options.command, number, parts, error)
-                                 : textLine(batch ? &number : nullptr, parts));
+        output.line({options.json ? jsonLine(options.command, number, parts, error)
+                                  : textLine(batch ? &number : nullptr, parts)});
     };
     if (batch) {
         std::ios::sync_with_stdio(false);

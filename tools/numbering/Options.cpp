@@ -10,6 +10,7 @@ using numbering::KesSiteFile;
 
 const char* const USAGE =
     "usage: numbering [options] <command> [number ...]\n"
+    "       numbering [options] diff OLD_DIR NEW_DIR [number ...]\n"
     "       numbering [--json] init [DIR]\n"
     "\n"
     "Converts telephone numbers for an installation of a private exchange. Numbers come from the\n"
@@ -23,6 +24,10 @@ const char* const USAGE =
     "  gsm         number -> compact international form (+ and digits)\n"
     "  format      canonical number -> laid out with --pattern or the country's mask\n"
     "  decompose   canonical number -> country number, area code, subscriber number (tab-separated)\n"
+    "  diff OLD_DIR NEW_DIR\n"
+    "              canonical, dial, clid and gsm under two configuration directories -> one line for\n"
+    "              each result that differs: input, command, old result, new result (tab-separated);\n"
+    "              without numbers, the shipped sample (exit status 0 same, 1 different, 2 error)\n"
     "  check       configuration files -> what the library would make of them, as file:line: severity:\n"
     "              message (exit status 0 clean or notes only, 1 warnings, 2 errors); takes no number;\n"
     "              with --site, the site file's settings too\n"
@@ -111,14 +116,21 @@ Options parseOptions(int argc, char** argv) {
     if (positional.empty())
         throw std::invalid_argument("no command given");
     options.command = positional.front();
-    static const char* const commands[] = {"canonical", "dial",      "clid",  "gsm",
-                                           "format",    "decompose", "check", "init"};
+    static const char* const commands[] = {"canonical", "dial",  "clid", "gsm", "format",
+                                           "decompose", "check", "init", "diff"};
     bool known = false;
     for (const char* command : commands)
         known = known || options.command == command;
     if (!known)
         throw std::invalid_argument("unknown command '" + options.command + "'");
-    options.numbers.assign(positional.begin() + 1, positional.end());
+    auto numbers = positional.begin() + 1;
+    if (options.command == "diff") {
+        if (positional.size() < 3)
+            throw std::invalid_argument("diff wants two configuration directories: diff OLD_DIR NEW_DIR");
+        options.oldDir = *numbers++;
+        options.newDir = *numbers++;
+    }
+    options.numbers.assign(numbers, positional.end());
     if (options.command == "check" && !options.numbers.empty())
         throw std::invalid_argument("check takes no number");
     if (options.command == "init" && options.numbers.size() > 1)

@@ -19,7 +19,9 @@ struct Options {
     int exceptLength = 0;
     std::string exceptBegin;
     std::string pattern;
-    std::string configDir; // empty: NUMBERING_CONFIG_DIR if set, else the shipped configuration
+    std::string configDir; // empty: the library's directory if it exists, else the shipped configuration
+    std::string oldDir;    // the two configurations that diff compares
+    std::string newDir;
     bool json = false;
     bool trace = false;
     bool help = false;

@@ -2,6 +2,7 @@
 #include "Check.h"
 #include "ConfigurationDirectory.h"
 #include "Conversions.h"
+#include "Diff.h"
 #include "Init.h"
 #include "Options.h"
 
@@ -25,6 +26,18 @@ void FlogWrite(const char* text, short) {
         std::fprintf(stderr, "%s\n", text);
 }
 
+namespace {
+
+// Without dialing rules every country would be reported as unsupported: name the real cause.
+bool hasDialingRules(const std::string& directory) {
+    if (holdsDialingRules(directory))
+        return true;
+    std::cerr << "numbering: no dialing rules in " << directory << "\n";
+    return false;
+}
+
+} // namespace
+
 int main(int argc, char** argv) {
     Options options;
     try {
@@ -44,14 +57,18 @@ int main(int argc, char** argv) {
     Logger::m_Traces = options.trace;
     if (options.command == "init")
         return runInit(options);
+    // diff names both its directories: neither the library's directory nor a note about it.
+    if (options.command == "diff") {
+        const std::string oldDirectory = withSlash(options.oldDir), newDirectory = withSlash(options.newDir);
+        if (!hasDialingRules(oldDirectory) || !hasDialingRules(newDirectory))
+            return 2;
+        return runDiff(options, oldDirectory, newDirectory, shippedConfiguration() + "sample_numbers.txt");
+    }
     const std::string directory = configurationDirectory(options);
     if (options.command == "check")
         return runCheck(directory, options);
-    // Without dialing rules every country would be reported as unsupported: name the real cause.
-    if (!holdsDialingRules(directory)) {
-        std::cerr << "numbering: no dialing rules in " << directory << "\n";
+    if (!hasDialingRules(directory))
         return 2;
-    }
     KesNumberingRules::reload(directory);
 
     return convertNumbers(options);

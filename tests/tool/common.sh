@@ -1,5 +1,7 @@
-# Sourced by the tool's test scripts: runs the tool named by $tool and records what went wrong.
+# Sourced by the shell checks of the command-line tool, once $tool names it: a scratch directory
+# ($work), running the tool and judging what it did, and the closing verdict.
 failures=0
+tab=$'\t'
 work=$(mktemp -d)
 trap 'rm -rf "$work"' EXIT
 
@@ -27,7 +29,17 @@ expect() {
     fi
 }
 
-# finish: the exit status of the script.
+# json KEY...: the JSON lines of $out read back, each as its members KEY... joined by '|' ('-' for
+# one missing), and ';' after each line.
+json() {
+    python3 -c '
+import json, sys
+for line in filter(str.strip, sys.stdin):
+    obj = json.loads(line)
+    print("|".join(str(obj.get(k, "-")) for k in sys.argv[1:]), end=";")' "$@" <<<"$out" 2>&1
+}
+
+# finish: the verdict and the exit status of the check.
 finish() {
     if [ "$failures" -ne 0 ]; then
         echo "$failures check(s) failed"

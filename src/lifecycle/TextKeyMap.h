@@ -1,5 +1,5 @@
-#ifndef NUMBERING_SRC_CONFIG_TEXTKEYMAP_H
-#define NUMBERING_SRC_CONFIG_TEXTKEYMAP_H
+#ifndef NUMBERING_SRC_LIFECYCLE_TEXTKEYMAP_H
+#define NUMBERING_SRC_LIFECYCLE_TEXTKEYMAP_H
 
 // The map of the configuration store and of the plan and strategy caches: text keys (country codes,
 // calling codes, names) to values, grown one entry at a time and never shrunk. Entries never move
