@@ -31,10 +31,7 @@ KesCNPManager* KesCNPManager::getInstance() {
 }
 
 void KesCNPManager::resetInstance() {
-    std::lock_guard<std::recursive_mutex> lock(lifecycleMutex());
-    if (Generation* current = Generation::currentIfAny())
-        current->plans.drop();
-    Generation::forgetFiles();
+    Generation::reset(&Generation::plans);
 }
 
 KesCNPManager::KesCNPManager(Generation& owner)

@@ -93,10 +93,7 @@ KesNumberingConfig* KesNumberingConfig::getInstance() {
 }
 
 void KesNumberingConfig::resetInstance() {
-    std::lock_guard<std::recursive_mutex> lock(lifecycleMutex());
-    if (Generation* current = Generation::currentIfAny())
-        current->store.drop();
-    Generation::forgetFiles();
+    Generation::reset(&Generation::store);
 }
 
 KesNumberingConfig::KesNumberingConfig(Generation& owner)

@@ -26,10 +26,7 @@ KesDialableManager* KesDialableManager::getInstance() {
 }
 
 void KesDialableManager::resetInstance() {
-    std::lock_guard<std::recursive_mutex> lock(lifecycleMutex());
-    if (Generation* current = Generation::currentIfAny())
-        current->strategies.drop();
-    Generation::forgetFiles();
+    Generation::reset(&Generation::strategies);
 }
 
 KesDialableManager::KesDialableManager(Generation& owner)

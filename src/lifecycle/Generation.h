@@ -135,8 +135,15 @@ public:
     /// serialised; the last one wins. Throws std::logic_error inside a conversion, which would
     /// wait for itself.
     static void reload(const std::string* directory, void (*prepare)(Generation&));
-    /// After a reset (only when nothing converts): what the current generation makes again reads the disk.
-    static void forgetFiles();
+    /// A singleton's resetInstance(): destroys `which` of the current generation alone (only when
+    /// nothing converts); what the generation makes again afterwards reads the disk.
+    template <class T> static void reset(Singleton<T> Generation::*which) {
+        std::lock_guard<std::recursive_mutex> lock(lifecycleMutex());
+        if (Generation* current = currentIfAny()) {
+            (current->*which).drop();
+            current->snapshot.reset();
+        }
+    }
 
     /// The directory the next generation reads: the last one chosen by a reload, else
     /// NUMBERING_CONFIG_DIR as it was when the library was loaded, else "/current/tele_mnt/lib_numbering/".
