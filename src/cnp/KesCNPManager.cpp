@@ -22,7 +22,7 @@ KesCNPManager& planCacheOf(Generation& generation) {
     if (Logger::m_Traces)
         KesCNPManager::logger->debug("getInstance()");
     return generation.plans.getOrMake([&generation] { return new KesCNPManager(generation); },
-                                      generation.isCurrent());
+                                      [&generation] { return generation.isCurrent(); });
 }
 
 KesCNPManager* KesCNPManager::getInstance() {

@@ -62,7 +62,7 @@ bool loadEachKey(const Generation& generation, Logger* logger, const std::string
 
 KesNumberingConfig& storeOf(Generation& generation) {
     return generation.store.getOrMake([&generation] { return new KesNumberingConfig(generation); },
-                                      generation.isCurrent());
+                                      [&generation] { return generation.isCurrent(); });
 }
 
 std::vector<std::string> storeFileNames() {

@@ -17,7 +17,7 @@ KesDialableManager& strategyCacheOf(Generation& generation) {
     if (Logger::m_Traces)
         KesDialableManager::logger->debug("getInstance()");
     return generation.strategies.getOrMake([&generation] { return new KesDialableManager(generation); },
-                                           generation.isCurrent());
+                                           [&generation] { return generation.isCurrent(); });
 }
 
 KesDialableManager* KesDialableManager::getInstance() {
