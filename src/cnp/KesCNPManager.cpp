@@ -40,10 +40,7 @@ KesCNPManager::KesCNPManager(Generation& owner)
         logger->debug("KesCNPManager()");
 }
 
-KesCNPManager::~KesCNPManager() {
-    if (instance == this)
-        instance = nullptr;
-}
+KesCNPManager::~KesCNPManager() = default;
 
 KesCNP* KesCNPManager::getCNP(std::string country) {
     if (Logger::m_Traces)

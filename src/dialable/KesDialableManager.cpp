@@ -35,10 +35,7 @@ KesDialableManager::KesDialableManager(Generation& owner)
         logger->debug("KesDialableManager()");
 }
 
-KesDialableManager::~KesDialableManager() {
-    if (instance == this)
-        instance = nullptr;
-}
+KesDialableManager::~KesDialableManager() = default;
 
 KesDialable* KesDialableManager::getDialable(std::string countryNumber) {
     if (Logger::m_Traces)
