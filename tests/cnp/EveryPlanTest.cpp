@@ -4,6 +4,8 @@
 #include "PlanWorld.h"
 #include "TestHost.h"
 
+#include "numbering/KesNumberingRules.h"
+
 #include <gtest/gtest.h>
 
 #include <fstream>
@@ -165,6 +167,17 @@ TEST_P(EveryAreaCodePlan, UnopenableFileGivesThePlansOtherTextAndTheDefault) {
     EXPECT_TRUE(testhost::logged("INFO " + loggerOf(std::string("KesCNP_") + row.callingCode) + " - " +
                                  textsWhenNoFile(row.callingCode).first));
     ::rmdir(directory.c_str());
+}
+
+// A reload reads the plan's files at once: a plan made afterwards loads them as they were.
+TEST_P(EveryAreaCodePlan, ItsFilesAreReadAtTheReload) {
+    const KesCNPRegistry::Plan& row = GetParam();
+    for (const std::string& name : {row.installationFile(), row.defaultFile()}) {
+        testconfig::write(name, "Translate=1\n" + areaCodeLines({"7"}));
+        KesNumberingRules::reload();
+        testconfig::remove(name);
+        EXPECT_EQ(filePlan(row.callingCode)->areaCodeCount, 1) << name;
+    }
 }
 
 INSTANTIATE_TEST_SUITE_P(Registry, EveryPlan, ::testing::ValuesIn(KesCNPRegistry::plans()), nameOf);
