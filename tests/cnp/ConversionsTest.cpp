@@ -166,19 +166,6 @@ TEST_F(Conversions, EveryPlanAroundItsLengthsAndPrefixes) {
     }
 }
 
-// Numbers without national prefix are completed with the own area code only while "Translate" is 1.
-TEST_F(Conversions, LocalNumbersOnlyWithTranslate) {
-    const Site sites[] = {{"DE", "0", 5, "89"}, {"AT", "0", 4, "1"}, {"NL", "0", 0, "20"},
-                          {"GB", "9", 0, "20"}, {"IE", "0", 0, "1"}, {"AU", "0", 0, "2"},
-                          {"MX", "0", 0, "55"}};
-    const std::string local = "22345678"; // eight digits: also a local number in Australia and Mexico
-    for (const Site& site : sites) {
-        EXPECT_EQ(site.convert(local), "+" + site.callingCode() + " (" + site.ownArea + ") " + local) << site;
-        writePlanFile(site.callingCode(), "0", {"20"});
-        EXPECT_EQ(site.convert(local), local) << site;
-    }
-}
-
 // The two-pass plans leave to pass 2 a national number shorter than their longest area code, not
 // one as long.
 TEST_F(Conversions, NationalNumbersShorterThanTheLongestAreaCodeWaitForPass2) {

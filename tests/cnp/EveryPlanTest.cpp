@@ -169,6 +169,21 @@ TEST_P(EveryAreaCodePlan, UnopenableFileGivesThePlansOtherTextAndTheDefault) {
     ::rmdir(directory.c_str());
 }
 
+// Numbers without national prefix are completed with the own area code only while "Translate" is 1;
+// the Argentine plan reads it but never consults it.
+TEST_P(EveryAreaCodePlan, CompletesLocalNumbersOnlyWhileTranslateIsOne) {
+    const KesCNPRegistry::Plan& row = GetParam();
+    if (row.reads != Reads::TranslateAndAreaCodes)
+        GTEST_SKIP() << "reads no Translate";
+    const Site site{row.country, "9", 0, "20"};
+    const std::string local = "22345678"; // eight digits: also a local number in Australia and Mexico
+    const std::string completed = "+" + std::string(row.callingCode) + " (20) " + local;
+    writePlanFile(row.callingCode, "1", {"20"});
+    EXPECT_EQ(site.convert(local), completed);
+    writePlanFile(row.callingCode, "0", {"20"});
+    EXPECT_EQ(site.convert(local), std::string(row.callingCode) == "54" ? completed : local);
+}
+
 // A reload reads the plan's files at once: a plan made afterwards loads them as they were.
 TEST_P(EveryAreaCodePlan, ItsFilesAreReadAtTheReload) {
     const KesCNPRegistry::Plan& row = GetParam();
