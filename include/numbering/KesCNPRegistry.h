@@ -32,8 +32,10 @@ public:
 
     struct Plan {
         const char* callingCode; ///< "49"
-        const char* country;     ///< "DE": the country the plan is written for
-        KesCNP* (*create)();     ///< a new plan, reference count 1; its constructor reads its files
+        /// "DE": the country the plan is written for; the dialing rules may give its calling code
+        /// to others too ("CA" shares +1), which then get the same plan.
+        const char* country;
+        KesCNP* (*create)(); ///< a new plan, reference count 1; its constructor reads its files
         Reads reads = Reads::Nothing;
         UnknownAreaCode unknownAreaCode = UnknownAreaCode::Neutral; ///< for plans with area codes
         bool looksUpCountry = false; ///< the national prefix comes from the dialing rules row of `country`
