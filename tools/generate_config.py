@@ -3,7 +3,8 @@
 
 Input: the numbering facts directory, facts/ by default (tab-separated files: countries.tsv,
 formats.tsv, formats_inherited.tsv, areacodes/<cc>.tsv, areacodes/<cc>-nongeo.tsv,
-areacodes/57-carriers.tsv; its README.md names their sources).
+areacodes/57-carriers.tsv; its README.md names their sources), and the library's plans as
+tools/plans.tsv lists them.
 Output: the *_default.properties files plus tz310cnp_57.properties, and the example numbers:
 example_numbers.tsv and sample_numbers.txt (the sample of `numbering diff`).
 
