@@ -3,7 +3,8 @@
 
 Input: the numbering facts directory, facts/ by default (tab-separated files: countries.tsv,
 formats.tsv, formats_inherited.tsv, areacodes/<cc>.tsv, areacodes/<cc>-nongeo.tsv,
-areacodes/57-carriers.tsv; its README.md names their sources).
+areacodes/57-carriers.tsv; its README.md names their sources), and the library's plans as
+tools/plans.tsv lists them.
 Output: the *_default.properties files plus tz310cnp_57.properties, and the example numbers:
 example_numbers.tsv and sample_numbers.txt (the sample of `numbering diff`).
 
@@ -32,31 +33,34 @@ DEFAULT_OUT = PROJECT_ROOT / "data"
 
 GENERATOR = "tools/generate_config.py"
 
+# The library's plans, as its plan registry lists them in tools/plans.tsv (a test of the library keeps
+# the two equal): calling code, country, what the plan reads, how it writes an unknown area code.
+PLAN_LISTING = Path(__file__).resolve().parent / "plans.tsv"
+
+
+def read_plans(path=PLAN_LISTING):
+    with open(path, encoding="ascii", newline="") as handle:
+        lines = [line for line in handle if not line.startswith("#")]
+    return list(csv.DictReader(lines, delimiter="\t", quoting=csv.QUOTE_NONE))
+
+
+PLANS = read_plans()
+
 # Calling codes whose numbering plan is switched on by the activation file.
-PLAN_CODES = ["1", "7", "31", "32", "33", "41", "43", "44", "49", "52", "54", "57", "61", "64", "353"]
+PLAN_CODES = [row["calling_code"] for row in PLANS]
 
 # Plans that read an area code tree from tz310cnp_<cc>_default.properties, and which
-# non-geographic prefixes their tree must hold:
-#   "all"      the plan has no neutral form for a number whose prefix is missing from the tree
-#              (Germany puts the installation's own area code in front of it, Austria cuts the
-#              first four digits, Argentina and Mexico take the installation's area), so every
-#              mobile and service range is listed;
-#   "shadowed" the plan writes an unknown prefix as "(0) national number" (Netherlands, Belgium,
+# non-geographic prefixes their tree must hold, by how the plan writes a prefix missing from it:
+#   "all"      the plan guesses an area code (Germany puts the installation's own area code in
+#              front of it, Austria cuts the first four digits, Argentina and Mexico take the
+#              installation's area), so every mobile and service range is listed;
+#   "shadowed" the plan writes it neutrally, as "(0) national number" (Netherlands, Belgium,
 #              United Kingdom, Australia) or as a two-digit code (Ireland), which is right for a
 #              number without an area code; a non-geographic range is listed only where a shorter
 #              geographic code begins it and would otherwise be taken as its area code
 #              (Belgium: 4 Liege before the mobile ranges 45-49, 9 Ghent before 90x).
-TREE_PLANS = {
-    "31": "shadowed",
-    "32": "shadowed",
-    "43": "all",
-    "44": "shadowed",
-    "49": "all",
-    "52": "all",
-    "54": "all",
-    "61": "shadowed",
-    "353": "shadowed",
-}
+TREE_PLANS = {row["calling_code"]: {"guessed": "all", "neutral": "shadowed"}[row["unknown_area_code"]]
+              for row in PLANS if row["reads"] in ("area_codes", "translate_and_area_codes")}
 
 # Prefixes that are not area codes although the facts list them as a number range.
 # Argentina: the 9 is the international mobile marker, which the plan strips before the look-up.

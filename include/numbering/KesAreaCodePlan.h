@@ -15,20 +15,18 @@ class Logger;
 
 namespace numbering {
 
-/// Base of the country plans whose area codes come from the country's plan file
-/// ("tz310cnp_<calling code>.properties", else its "_default" companion): it reads the file once,
+/// Base of the country plans whose area codes come from the country's plan file (KesCNPRegistry
+/// names it, and its default companion): it reads the file once,
 /// in the constructor, and holds the tree; the two conversion families that most of these plans
 /// share live here too, parameterised by what differs between countries.
 class NUMBERING_API KesAreaCodePlan : public KesCNP {
 public:
-    /// What tells one plan's file reading from another's.
+    /// What tells one plan's file reading from another's; the file names, and whether "Translate"
+    /// is read, come from the plan's row in KesCNPRegistry.
     struct PlanFile {
-        const char* installationFile;   ///< name in the configuration directory
-        const char* defaultFile;        ///< read when the installation file cannot be opened
+        const char* callingCode;        ///< "49": the row, and the trace tag "KesCNP_49"
         const char* textWhenUnopenable; ///< info text when Poco cannot open the installation file
         const char* textWhenNotFound;   ///< info text when the installation file does not exist
-        const char* planName;           ///< "KesCNP_49": constructor trace and tag of the reading traces
-        bool readsTranslate;            ///< whether the file's "Translate" key is read
     };
 
     /// Where a national number begins with no known area code (two-pass plans).

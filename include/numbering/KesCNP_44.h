@@ -21,8 +21,8 @@ public:
 
     /// The plan's traces.
     static Logger* logger;
-    /// "tz310cnp_44.properties" and "tz310cnp_44_default.properties" in the directory of the library's start;
-    /// the plan reads these names in the directory of the configuration in use.
+    /// The plan files (KesCNPRegistry names them) in the directory of the library's start, for hosts
+    /// that show them; nothing in the library reads these: the plan reads the configuration in use.
     static std::string AREA_CODES_FILE;
     static std::string AREA_CODES_DEFAULT_FILE; ///< read when the installation file cannot be opened
 };

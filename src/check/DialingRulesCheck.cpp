@@ -2,6 +2,7 @@
 // ascending order, its value cut into fields, the first row of a name or of a P calling code kept.
 #include "FileChecks.h"
 
+#include "numbering/KesCNPRegistry.h"
 #include "numbering/KesCountryRuleItem.h"
 
 #include <Poco/AutoPtr.h>
@@ -12,14 +13,6 @@ namespace numbering {
 namespace configcheck {
 
 namespace {
-
-// The rows that the plans (and the Russian and Argentine dialing) of a calling code look up by
-// their two-letter code, for the national prefix: without the row they work without one.
-struct PlanLookUp {
-    const char* callingCode;
-    const char* countryCode;
-};
-const PlanLookUp PLAN_LOOK_UPS[] = {{"33", "FR"}, {"7", "RU"}, {"54", "AR"}};
 
 bool allDigits(const std::string& text) {
     return std::all_of(text.begin(), text.end(), [](char c) { return c >= '0' && c <= '9'; });
@@ -159,10 +152,6 @@ private:
 
 } // namespace
 
-const AreaCodePlan AREA_CODE_PLANS[9] = {{"31", true}, {"32", false}, {"43", true},
-                                         {"44", true}, {"49", true},  {"52", true},
-                                         {"54", true}, {"61", true},  {"353", true}};
-
 bool DialingRules::usesCallingCode(const std::string& callingCode) const {
     auto found = rowsOfCallingCode.find(callingCode);
     if (found == rowsOfCallingCode.end())
@@ -205,14 +194,16 @@ std::vector<std::string> checkDialingRules(CheckedFile& file, DialingRules& rule
             file.report(Severity::Error, keysOfCode.front(),
                         "no row of +" + callingCode + " is marked P (" + listed(keysOfCode) +
                             "): the library never recognises numbers of +" + callingCode);
-    // Their plans are on whatever the activation file says: no switch reaches a non-zero code.
-    for (const PlanLookUp& lookUp : PLAN_LOOK_UPS)
-        if (rules.usesCallingCode(lookUp.callingCode) && specificFormatActive(lookUp.callingCode, false) &&
-            rules.rows.count(lookUp.countryCode) == 0)
+    // The plans (and the Russian and Argentine dialing) that look their country's row up by its
+    // code, for the national prefix, work without one when it is missing. Their plans are on
+    // whatever the activation file says: no switch reaches a non-zero code.
+    for (const KesCNPRegistry::Plan& plan : KesCNPRegistry::plans())
+        if (plan.looksUpCountry && rules.usesCallingCode(plan.callingCode) &&
+            specificFormatActive(plan.callingCode, false) && rules.rows.count(plan.country) == 0)
             file.report(Severity::Error, std::string(),
-                        std::string("no row ") + lookUp.countryCode + ", which the plan of +" +
-                            lookUp.callingCode + " looks up for its national prefix: numbers of +" +
-                            lookUp.callingCode + " are converted as if there were none");
+                        std::string("no row ") + plan.country + ", which the plan of +" + plan.callingCode +
+                            " looks up for its national prefix: numbers of +" + plan.callingCode +
+                            " are converted as if there were none");
     return loaded;
 }
 

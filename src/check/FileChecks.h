@@ -26,12 +26,11 @@ struct DialingRules {
     bool usesCallingCode(const std::string& callingCode) const;
 };
 
-/// A plan that reads an area code file ("tz310cnp_<calling code>.properties").
+/// A plan that reads an area code file (a row of KesCNPRegistry).
 struct AreaCodePlan {
     const char* callingCode;
     bool readsTranslate;
 };
-extern const AreaCodePlan AREA_CODE_PLANS[9];
 
 /// Loads `rules` from the file; returns the country codes read.
 std::vector<std::string> checkDialingRules(CheckedFile& file, DialingRules& rules);

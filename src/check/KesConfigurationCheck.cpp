@@ -3,6 +3,7 @@
 #include "FileChecks.h"
 #include "RepeatedFindings.h"
 #include "TextEncoding.h"
+#include "numbering/KesCNPRegistry.h"
 #include "numbering/KesNumberingConfig.h"
 
 #include <Poco/Exception.h>
@@ -111,13 +112,16 @@ public:
                 return std::vector<std::string>();
             },
             nullptr);
-        for (const AreaCodePlan& plan : AREA_CODE_PLANS) {
+        for (const KesCNPRegistry::Plan& plan : KesCNPRegistry::plans()) {
             const std::string code = plan.callingCode;
-            if (!rules.usesCallingCode(code) || !specificFormatActive(code, firstSwitch))
+            if (!plan.readsAreaCodes() || !rules.usesCallingCode(code) ||
+                !specificFormatActive(code, firstSwitch))
                 continue;
-            const Check areaCodes = [&](CheckedFile& file) { return checkAreaCodes(file, plan); };
-            checkFile({"tz310cnp_" + code + ".properties", "tz310cnp_" + code + "_default.properties",
-                       Severity::Error, "the plan of +" + code + " loads no area code", "area codes"},
+            const AreaCodePlan areaCodePlan{plan.callingCode,
+                                            plan.reads == KesCNPRegistry::Reads::TranslateAndAreaCodes};
+            const Check areaCodes = [&](CheckedFile& file) { return checkAreaCodes(file, areaCodePlan); };
+            checkFile({plan.installationFile(), plan.defaultFile(), Severity::Error,
+                       "the plan of +" + code + " loads no area code", "area codes"},
                       areaCodes, areaCodes);
         }
         if (rules.usesCallingCode("57")) {

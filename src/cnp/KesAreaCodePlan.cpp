@@ -3,6 +3,7 @@
 #include "config/PropertyFiles.h"
 #include "config/PropertyRules.h"
 #include "lifecycle/Conversion.h"
+#include "numbering/KesCNPRegistry.h"
 #include "numbering/KesDialRulesItem.h"
 #include "numbering/KesNumberingConfig.h"
 #include "numbering/Logger.h"
@@ -16,19 +17,21 @@ namespace numbering {
 KesAreaCodePlan::KesAreaCodePlan(const PlanFile& file, Logger* planLogger)
     : translate(true), maxAreaCodeLength(0), areaCodeCount(0), areaCodeTree(new KesAreaCodeTree) {
     if (Logger::m_Traces)
-        planLogger->debug(std::string(file.planName) + "()");
+        planLogger->debug("KesCNP_" + std::string(file.callingCode) + "()");
     loadAreaCodes(file, planLogger);
 }
 
 KesAreaCodePlan::~KesAreaCodePlan() = default;
 
 void KesAreaCodePlan::loadAreaCodes(const PlanFile& file, Logger* planLogger) {
+    const KesCNPRegistry::Plan& plan = *KesCNPRegistry::find(file.callingCode);
     try {
         const Poco::AutoPtr<NumberedProperties> properties(new NumberedProperties(
-            readInstallationOrDefault(Conversion(owner).generation(), file.installationFile, file.defaultFile,
-                                      planLogger, file.textWhenUnopenable, file.textWhenNotFound),
+            readInstallationOrDefault(Conversion(owner).generation(), plan.installationFile(),
+                                      plan.defaultFile(), planLogger, file.textWhenUnopenable,
+                                      file.textWhenNotFound),
             "AC_"));
-        if (file.readsTranslate)
+        if (plan.reads == KesCNPRegistry::Reads::TranslateAndAreaCodes)
             translate = translateOn(properties->getString("Translate"));
         // The list ends at the first missing key (a gap included), by exception like a normal file.
         properties->forEachNumberedValue([this](std::string_view value) {
@@ -39,10 +42,11 @@ void KesAreaCodePlan::loadAreaCodes(const PlanFile& file, Logger* planLogger) {
             ++areaCodeCount;
         });
     } catch (const std::exception& e) {
+        const std::string planName = "KesCNP_" + std::string(file.callingCode);
         if (Logger::m_Traces)
-            planLogger->debug(std::string(file.planName) + " : " + e.what());
+            planLogger->debug(planName + " : " + e.what());
         if (Logger::m_Traces)
-            planLogger->debug(std::string(file.planName) + " : " +
+            planLogger->debug(planName + " : " +
                               " max length areacode : " + std::to_string(maxAreaCodeLength) +
                               " nb area code : " + std::to_string(areaCodeCount));
     }

@@ -1,5 +1,6 @@
 #include "numbering/KesCNP_31.h"
 
+#include "numbering/KesCNPRegistry.h"
 #include "numbering/KesNumberingConfig.h"
 #include "numbering/Logger.h"
 
@@ -8,18 +9,15 @@
 namespace numbering {
 
 Logger* KesCNP_31::logger = Logger::getLogger(typeid(KesCNP_31).name());
-std::string KesCNP_31::AREA_CODES_FILE = KesNumberingConfig::configFile("tz310cnp_31.properties");
+std::string KesCNP_31::AREA_CODES_FILE =
+    KesNumberingConfig::configFile(KesCNPRegistry::installationFile("31"));
 std::string KesCNP_31::AREA_CODES_DEFAULT_FILE =
-    KesNumberingConfig::configFile("tz310cnp_31_default.properties");
+    KesNumberingConfig::configFile(KesCNPRegistry::defaultFile("31"));
 
 namespace {
 
-const KesAreaCodePlan::PlanFile PLAN_FILE = {"tz310cnp_31.properties",
-                                             "tz310cnp_31_default.properties",
-                                             "No specific configuration file for Netherlands",
-                                             "No specific dialing rules configuration file",
-                                             "KesCNP_31",
-                                             true};
+const KesAreaCodePlan::PlanFile PLAN_FILE = {"31", "No specific configuration file for Netherlands",
+                                             "No specific dialing rules configuration file"};
 
 const KesCNP_31::OnePassRules CONVERSION = {"+31 (", 6, KesCNP_31::LocalRule::AnyFirstDigit,
                                             KesCNP_31::UnknownAreaForm::NationalPrefixInParentheses,

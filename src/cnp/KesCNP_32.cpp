@@ -1,5 +1,6 @@
 #include "numbering/KesCNP_32.h"
 
+#include "numbering/KesCNPRegistry.h"
 #include "numbering/KesNumberingConfig.h"
 #include "numbering/Logger.h"
 
@@ -8,18 +9,15 @@
 namespace numbering {
 
 Logger* KesCNP_32::logger = Logger::getLogger(typeid(KesCNP_32).name());
-std::string KesCNP_32::AREA_CODES_FILE = KesNumberingConfig::configFile("tz310cnp_32.properties");
+std::string KesCNP_32::AREA_CODES_FILE =
+    KesNumberingConfig::configFile(KesCNPRegistry::installationFile("32"));
 std::string KesCNP_32::AREA_CODES_DEFAULT_FILE =
-    KesNumberingConfig::configFile("tz310cnp_32_default.properties");
+    KesNumberingConfig::configFile(KesCNPRegistry::defaultFile("32"));
 
 namespace {
 
-const KesAreaCodePlan::PlanFile PLAN_FILE = {"tz310cnp_32.properties",
-                                             "tz310cnp_32_default.properties",
-                                             "No specific configuration file for Belgium",
-                                             "No specific dialing rules configuration file",
-                                             "KesCNP_32",
-                                             false};
+const KesAreaCodePlan::PlanFile PLAN_FILE = {"32", "No specific configuration file for Belgium",
+                                             "No specific dialing rules configuration file"};
 
 // Numbers without national prefix are never completed: the plan reads no "Translate".
 const KesCNP_32::OnePassRules CONVERSION = {"+32 (", 9, KesCNP_32::LocalRule::None,

@@ -1,5 +1,6 @@
 #include "numbering/KesCNP_353.h"
 
+#include "numbering/KesCNPRegistry.h"
 #include "numbering/KesNumberingConfig.h"
 #include "numbering/Logger.h"
 
@@ -8,18 +9,15 @@
 namespace numbering {
 
 Logger* KesCNP_353::logger = Logger::getLogger(typeid(KesCNP_353).name());
-std::string KesCNP_353::AREA_CODES_FILE = KesNumberingConfig::configFile("tz310cnp_353.properties");
+std::string KesCNP_353::AREA_CODES_FILE =
+    KesNumberingConfig::configFile(KesCNPRegistry::installationFile("353"));
 std::string KesCNP_353::AREA_CODES_DEFAULT_FILE =
-    KesNumberingConfig::configFile("tz310cnp_353_default.properties");
+    KesNumberingConfig::configFile(KesCNPRegistry::defaultFile("353"));
 
 namespace {
 
-const KesAreaCodePlan::PlanFile PLAN_FILE = {"tz310cnp_353.properties",
-                                             "tz310cnp_353_default.properties",
-                                             "No specific dialing rules configuration for Irelandd",
-                                             "No specific dialing rules configuration for Ireland",
-                                             "KesCNP_353",
-                                             true};
+const KesAreaCodePlan::PlanFile PLAN_FILE = {"353", "No specific dialing rules configuration for Irelandd",
+                                             "No specific dialing rules configuration for Ireland"};
 
 // A national number with an unknown area code is split behind its first two digits.
 const KesCNP_353::OnePassRules CONVERSION = {"+353 (", 5, KesCNP_353::LocalRule::AnyFirstDigit,

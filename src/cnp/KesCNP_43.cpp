@@ -1,5 +1,6 @@
 #include "numbering/KesCNP_43.h"
 
+#include "numbering/KesCNPRegistry.h"
 #include "numbering/KesNumberingConfig.h"
 #include "numbering/Logger.h"
 
@@ -10,18 +11,15 @@
 namespace numbering {
 
 Logger* KesCNP_43::logger = Logger::getLogger(typeid(KesCNP_43).name());
-std::string KesCNP_43::AREA_CODES_FILE = KesNumberingConfig::configFile("tz310cnp_43.properties");
+std::string KesCNP_43::AREA_CODES_FILE =
+    KesNumberingConfig::configFile(KesCNPRegistry::installationFile("43"));
 std::string KesCNP_43::AREA_CODES_DEFAULT_FILE =
-    KesNumberingConfig::configFile("tz310cnp_43_default.properties");
+    KesNumberingConfig::configFile(KesCNPRegistry::defaultFile("43"));
 
 namespace {
 
-const KesAreaCodePlan::PlanFile PLAN_FILE = {"tz310cnp_43.properties",
-                                             "tz310cnp_43_default.properties",
-                                             "No specific configuration file for Austria",
-                                             "No specific dialing rules configuration file",
-                                             "KesCNP_43",
-                                             true};
+const KesAreaCodePlan::PlanFile PLAN_FILE = {"43", "No specific configuration file for Austria",
+                                             "No specific dialing rules configuration file"};
 
 // A national number with an unknown area code is taken to begin with a four-digit one.
 const KesCNP_43::TwoPassRules CONVERSION = {"+43 (", KesCNP_43::UnknownAreaCode::FirstFourDigits};

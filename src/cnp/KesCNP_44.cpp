@@ -1,5 +1,6 @@
 #include "numbering/KesCNP_44.h"
 
+#include "numbering/KesCNPRegistry.h"
 #include "numbering/KesNumberingConfig.h"
 #include "numbering/Logger.h"
 
@@ -8,18 +9,15 @@
 namespace numbering {
 
 Logger* KesCNP_44::logger = Logger::getLogger(typeid(KesCNP_44).name());
-std::string KesCNP_44::AREA_CODES_FILE = KesNumberingConfig::configFile("tz310cnp_44.properties");
+std::string KesCNP_44::AREA_CODES_FILE =
+    KesNumberingConfig::configFile(KesCNPRegistry::installationFile("44"));
 std::string KesCNP_44::AREA_CODES_DEFAULT_FILE =
-    KesNumberingConfig::configFile("tz310cnp_44_default.properties");
+    KesNumberingConfig::configFile(KesCNPRegistry::defaultFile("44"));
 
 namespace {
 
-const KesAreaCodePlan::PlanFile PLAN_FILE = {"tz310cnp_44.properties",
-                                             "tz310cnp_44_default.properties",
-                                             "No specific configuration file for Austria",
-                                             "No specific dialing rules configuration file",
-                                             "KesCNP_44",
-                                             true};
+const KesAreaCodePlan::PlanFile PLAN_FILE = {"44", "No specific configuration file for Austria",
+                                             "No specific dialing rules configuration file"};
 
 // Only numbers beginning with 2 to 9 are local numbers.
 const KesCNP_44::OnePassRules CONVERSION = {"+44 (", 6, KesCNP_44::LocalRule::FirstDigitTwoToNine,

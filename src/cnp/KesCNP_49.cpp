@@ -1,5 +1,6 @@
 #include "numbering/KesCNP_49.h"
 
+#include "numbering/KesCNPRegistry.h"
 #include "numbering/KesNumberingConfig.h"
 #include "numbering/Logger.h"
 
@@ -10,18 +11,15 @@
 namespace numbering {
 
 Logger* KesCNP_49::logger = Logger::getLogger(typeid(KesCNP_49).name());
-std::string KesCNP_49::AREA_CODES_FILE = KesNumberingConfig::configFile("tz310cnp_49.properties");
+std::string KesCNP_49::AREA_CODES_FILE =
+    KesNumberingConfig::configFile(KesCNPRegistry::installationFile("49"));
 std::string KesCNP_49::AREA_CODES_DEFAULT_FILE =
-    KesNumberingConfig::configFile("tz310cnp_49_default.properties");
+    KesNumberingConfig::configFile(KesCNPRegistry::defaultFile("49"));
 
 namespace {
 
-const KesAreaCodePlan::PlanFile PLAN_FILE = {"tz310cnp_49.properties",
-                                             "tz310cnp_49_default.properties",
-                                             "No specific dialing rules configuration file",
-                                             "No specific dialing rules configuration file",
-                                             "KesCNP_49",
-                                             true};
+const KesAreaCodePlan::PlanFile PLAN_FILE = {"49", "No specific dialing rules configuration file",
+                                             "No specific dialing rules configuration file"};
 
 // A national number with an unknown area code goes behind the installation's own area code.
 const KesCNP_49::TwoPassRules CONVERSION = {"+49 (", KesCNP_49::UnknownAreaCode::OwnAreaCodeInFront};

@@ -1,6 +1,7 @@
 #include "numbering/KesCNP_52.h"
 
 #include "PlanText.h"
+#include "numbering/KesCNPRegistry.h"
 #include "numbering/KesDialRulesItem.h"
 #include "numbering/KesNumberingConfig.h"
 #include "numbering/Logger.h"
@@ -11,18 +12,15 @@
 namespace numbering {
 
 Logger* KesCNP_52::logger = Logger::getLogger(typeid(KesCNP_52).name());
-std::string KesCNP_52::AREA_CODES_FILE = KesNumberingConfig::configFile("tz310cnp_52.properties");
+std::string KesCNP_52::AREA_CODES_FILE =
+    KesNumberingConfig::configFile(KesCNPRegistry::installationFile("52"));
 std::string KesCNP_52::AREA_CODES_DEFAULT_FILE =
-    KesNumberingConfig::configFile("tz310cnp_52_default.properties");
+    KesNumberingConfig::configFile(KesCNPRegistry::defaultFile("52"));
 
 namespace {
 
-const KesAreaCodePlan::PlanFile PLAN_FILE = {"tz310cnp_52.properties",
-                                             "tz310cnp_52_default.properties",
-                                             "No specific configuration file for Mexico",
-                                             "No specific dialing rules configuration file",
-                                             "KesCNP_52",
-                                             true};
+const KesAreaCodePlan::PlanFile PLAN_FILE = {"52", "No specific configuration file for Mexico",
+                                             "No specific dialing rules configuration file"};
 
 // The forms the Mexican dialing strategy reads back: a mobile keeps the mobile marker "1" in front
 // of its area code, and 044/045 are its national mobile prefixes.

@@ -3,6 +3,7 @@
 #include "PlanText.h"
 #include "config/Store.h"
 #include "lifecycle/Conversion.h"
+#include "numbering/KesCNPRegistry.h"
 #include "numbering/KesCountryRuleItem.h"
 #include "numbering/KesDialRulesItem.h"
 #include "numbering/KesNumberingConfig.h"
@@ -15,18 +16,15 @@ namespace numbering {
 std::string KesCNP_54::PREFIX_MOBILE_NATIONAL = "15";
 std::string KesCNP_54::PREFIX_MOBILE_INTERNATIONAL = "9";
 Logger* KesCNP_54::logger = Logger::getLogger(typeid(KesCNP_54).name());
-std::string KesCNP_54::AREA_CODES_FILE = KesNumberingConfig::configFile("tz310cnp_54.properties");
+std::string KesCNP_54::AREA_CODES_FILE =
+    KesNumberingConfig::configFile(KesCNPRegistry::installationFile("54"));
 std::string KesCNP_54::AREA_CODES_DEFAULT_FILE =
-    KesNumberingConfig::configFile("tz310cnp_54_default.properties");
+    KesNumberingConfig::configFile(KesCNPRegistry::defaultFile("54"));
 
 namespace {
 
-const KesAreaCodePlan::PlanFile PLAN_FILE = {"tz310cnp_54.properties",
-                                             "tz310cnp_54_default.properties",
-                                             "No specific configuration file for Argentina",
-                                             "No specific configuration file for Argentina",
-                                             "KesCNP_54",
-                                             true};
+const KesAreaCodePlan::PlanFile PLAN_FILE = {"54", "No specific configuration file for Argentina",
+                                             "No specific configuration file for Argentina"};
 
 // Numbers of these lengths are local numbers of the installation's own area.
 const std::size_t SHORTEST_LOCAL = 6;

@@ -1,6 +1,7 @@
 #include "numbering/KesCNP_57.h"
 
 #include "PlanText.h"
+#include "numbering/KesCNPRegistry.h"
 #include "numbering/KesDialRulesItem.h"
 #include "numbering/KesNumberingConfig.h"
 #include "numbering/Logger.h"
@@ -11,8 +12,8 @@
 namespace numbering {
 
 Logger* KesCNP_57::logger = Logger::getLogger(typeid(KesCNP_57).name());
-std::string KesCNP_57::CNP_FILE = KesNumberingConfig::configFile("tz310cnp_57.properties");
-std::string KesCNP_57::CNP_DEFAULT_FILE = KesNumberingConfig::configFile("tz310cnp_57_default.properties");
+std::string KesCNP_57::CNP_FILE = KesNumberingConfig::configFile(KesCNPRegistry::installationFile("57"));
+std::string KesCNP_57::CNP_DEFAULT_FILE = KesNumberingConfig::configFile(KesCNPRegistry::defaultFile("57"));
 
 namespace {
 

@@ -1,6 +1,7 @@
 #include "numbering/KesCNP_61.h"
 
 #include "PlanText.h"
+#include "numbering/KesCNPRegistry.h"
 #include "numbering/KesNumberingConfig.h"
 #include "numbering/Logger.h"
 
@@ -9,18 +10,15 @@
 namespace numbering {
 
 Logger* KesCNP_61::logger = Logger::getLogger(typeid(KesCNP_61).name());
-std::string KesCNP_61::AREA_CODES_FILE = KesNumberingConfig::configFile("tz310cnp_61.properties");
+std::string KesCNP_61::AREA_CODES_FILE =
+    KesNumberingConfig::configFile(KesCNPRegistry::installationFile("61"));
 std::string KesCNP_61::AREA_CODES_DEFAULT_FILE =
-    KesNumberingConfig::configFile("tz310cnp_61_default.properties");
+    KesNumberingConfig::configFile(KesCNPRegistry::defaultFile("61"));
 
 namespace {
 
-const KesAreaCodePlan::PlanFile PLAN_FILE = {"tz310cnp_61.properties",
-                                             "tz310cnp_61_default.properties",
-                                             "No specific configuration file for Australia",
-                                             "No specific dialing rules configuration file",
-                                             "KesCNP_61",
-                                             true};
+const KesAreaCodePlan::PlanFile PLAN_FILE = {"61", "No specific configuration file for Australia",
+                                             "No specific dialing rules configuration file"};
 
 const char* const HEAD = "+61 (";
 const std::size_t NATIONAL_LENGTH = 10;

@@ -12,8 +12,8 @@ namespace numbering {
 /// The plan cache of `generation`, made on first use (KesCNPManager::getInstance() for that generation).
 KesCNPManager& planCacheOf(Generation& generation);
 
-/// The names of the files the plans of the factory may read ("tz310cnp_<calling code>.properties"
-/// and its default), the Colombian strategy's operator file among them.
+/// The names of the files that the plans of KesCNPRegistry, or the dialing of their countries, may
+/// read: what a reload reads.
 std::vector<std::string> planFileNames();
 
 } // namespace numbering

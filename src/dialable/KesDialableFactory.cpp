@@ -8,17 +8,29 @@
 
 namespace numbering {
 
+namespace {
+
+template <class Strategy> KesDialable* make() {
+    return new Strategy();
+}
+
+// The countries whose dialing the rule letters cannot express; each also has a plan
+// (KesCNPRegistry), whose canonical forms the strategy reads back.
+struct StrategyRow {
+    const char* countryNumber;
+    KesDialable* (*create)();
+};
+const StrategyRow STRATEGIES[] = {
+    {"61", make<KesDialable_61>}, {"7", make<KesDialable_7>},   {"52", make<KesDialable_52>},
+    {"54", make<KesDialable_54>}, {"57", make<KesDialable_57>},
+};
+
+} // namespace
+
 KesDialable* KesDialableFactory::CreateInstance(std::string countryNumber) {
-    if (countryNumber == "61")
-        return new KesDialable_61();
-    if (countryNumber == "7")
-        return new KesDialable_7();
-    if (countryNumber == "52")
-        return new KesDialable_52();
-    if (countryNumber == "54")
-        return new KesDialable_54();
-    if (countryNumber == "57")
-        return new KesDialable_57();
+    for (const StrategyRow& row : STRATEGIES)
+        if (countryNumber == row.countryNumber)
+            return row.create();
     return new KesDialable();
 }
 

@@ -2,6 +2,7 @@
 
 #include "config/PropertyFiles.h"
 #include "lifecycle/Conversion.h"
+#include "numbering/KesCNPRegistry.h"
 #include "numbering/KesCountryRuleItem.h"
 #include "numbering/KesNumberingConfig.h"
 #include "numbering/Logger.h"
@@ -24,7 +25,7 @@ KesDialable_57::KesDialable_57() : operatorPrefix(DEFAULT_OP_PREFIX) {
     // stays loaded, so a gap in the numbering hides the keys after it.
     try {
         const Poco::AutoPtr<NumberedProperties> file(new NumberedProperties(
-            readPropertyFile(Conversion(owner).generation(), "tz310cnp_57.properties"), "OP_"));
+            readPropertyFile(Conversion(owner).generation(), KesCNPRegistry::installationFile("57")), "OP_"));
         operatorPrefix = file->getString(OP_DEFAULT_KEY, DEFAULT_OP_PREFIX);
         file->forEachNumberedValue(
             [this](std::string_view value) { operatorTree->insert(leadingDigits(value)); });

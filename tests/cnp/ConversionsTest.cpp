@@ -10,7 +10,6 @@
 #include <initializer_list>
 #include <regex>
 #include <string>
-#include <vector>
 
 using namespace numbering;
 using namespace planworld;
@@ -167,25 +166,6 @@ TEST_F(Conversions, EveryPlanAroundItsLengthsAndPrefixes) {
     }
 }
 
-// Numbers without national prefix are completed with the own area code only while "Translate" is 1.
-TEST_F(Conversions, LocalNumbersOnlyWithTranslate) {
-    const Site sites[] = {{"DE", "0", 5, "89"}, {"AT", "0", 4, "1"}, {"NL", "0", 0, "20"},
-                          {"GB", "9", 0, "20"}, {"IE", "0", 0, "1"}, {"AU", "0", 0, "2"},
-                          {"MX", "0", 0, "55"}};
-    const std::string local = "22345678"; // eight digits: also a local number in Australia and Mexico
-    for (const Site& site : sites) {
-        EXPECT_EQ(site.convert(local), "+" + site.callingCode() + " (" + site.ownArea + ") " + local) << site;
-        writePlanFile(site.callingCode(), "0", {"20"});
-        EXPECT_EQ(site.convert(local), local) << site;
-    }
-}
-
-TEST_F(Conversions, WithoutDialingRulesTheNumberComesBackUnchanged) {
-    for (const char* code : PLAN_CODES)
-        for (const char* number : {"0301234567", "4155551234", "84951234567", "091234567", "43215678"})
-            EXPECT_EQ(plan(code)->dlr_Country_MakeCanonicalNumber(number, nullptr), number) << code;
-}
-
 // The two-pass plans leave to pass 2 a national number shorter than their longest area code, not
 // one as long.
 TEST_F(Conversions, NationalNumbersShorterThanTheLongestAreaCodeWaitForPass2) {
@@ -233,23 +213,5 @@ TEST_F(Conversions, NewZealandFormsDialBackToTheirDigits) {
         EXPECT_EQ(
             strategy.makeInternationalDialableNumber(country, area, subscriber, config->getCountryRule("FR")),
             "0064" + std::string(national + 1));
-    }
-}
-
-// Whatever arrives, a plan answers with the canonical form or the number unchanged.
-TEST_F(Conversions, NoInputBreaksAPlan) {
-    std::vector<std::string> inputs = {std::string(200, '0'), std::string(200, '9'),
-                                       std::string("03") + '\0' + "0123"};
-    for (const char* input : {"", "0", "00", "000", "9", "01", "+49 (30) 1", "abc", "\xff\xfe\x80"})
-        inputs.push_back(input);
-    KesDialRulesItem withPrefix("DE", "0", 5, "30", 0, "");
-    KesDialRulesItem withoutAnything("DE", "", 0, "", 0, "");
-    for (const char* code : PLAN_CODES) {
-        Poco::AutoPtr<KesCNP> converter = plan(code);
-        for (const std::string& input : inputs)
-            for (KesDialRulesItem* rules : {&withPrefix, &withoutAnything}) {
-                std::string result = converter->dlr_Country_MakeCanonicalNumber(input, rules);
-                EXPECT_TRUE(result == input || result.rfind("+", 0) == 0) << code << " '" << input << "'";
-            }
     }
 }

@@ -1,5 +1,5 @@
-// How the plans that read area codes take their files: the list, "Translate", the default file and
-// the texts each plan logs when its installation file is missing or cannot be opened.
+// How the plans that read area codes take their files: the list, "Translate" and the traces of the
+// reading (the default file and each plan's texts are checked for every plan in EveryPlanTest).
 
 #include "PlanWorld.h"
 #include "TestHost.h"
@@ -7,8 +7,6 @@
 #include <gtest/gtest.h>
 
 #include <string>
-#include <sys/stat.h>
-#include <unistd.h>
 
 using namespace numbering;
 using namespace planworld;
@@ -53,34 +51,6 @@ TEST_F(PlanFiles, TranslateIsOnlyOneAndItsAbsenceEndsTheReadingExceptForBelgium)
         Poco::AutoPtr<KesAreaCodePlan> plan = filePlan(c.plan);
         EXPECT_EQ(plan->translate, c.expected) << c.plan << " " << (c.translate ? c.translate : "none");
         EXPECT_EQ(plan->areaCodeCount, c.codes) << c.plan << " " << (c.translate ? c.translate : "none");
-    }
-}
-
-TEST_F(PlanFiles, MissingInstallationFileFallsBackToTheDefaultWithThePlansText) {
-    for (const FilePlan& p : FILE_PLANS) {
-        testconfig::write(defaultFile(p.code), "Translate=0\n" + areaCodeLines({"7"}));
-        testhost::Tracing off(false);
-        Poco::AutoPtr<KesAreaCodePlan> plan = filePlan(p.code);
-        EXPECT_EQ(plan->areaCodeCount, 1) << p.code;
-        EXPECT_EQ(plan->translate, !p.readsTranslate) << p.code;
-        EXPECT_EQ(testhost::lines().size(), 1u) << p.code;
-        EXPECT_TRUE(testhost::logged(std::string("INFO ") + loggerOf(std::string("KesCNP_") + p.code) +
-                                     " - " + p.textWhenNotFound))
-            << p.code;
-    }
-}
-
-// An installation file that is a directory cannot be opened: the plan's other text, then the default.
-TEST_F(PlanFiles, UnopenableFilesGiveThePlansOtherTextAndTheDefault) {
-    for (const FilePlan& p : FILE_PLANS) {
-        ASSERT_EQ(::mkdir((testconfig::directory() + installationFile(p.code)).c_str(), 0755), 0);
-        testconfig::write(defaultFile(p.code), "Translate=1\n" + areaCodeLines({"7"}));
-        testhost::Tracing off(false);
-        EXPECT_EQ(filePlan(p.code)->areaCodeCount, 1) << p.code;
-        EXPECT_TRUE(testhost::logged(std::string("INFO ") + loggerOf(std::string("KesCNP_") + p.code) +
-                                     " - " + p.textWhenUnopenable))
-            << p.code;
-        ::rmdir((testconfig::directory() + installationFile(p.code)).c_str());
     }
 }
 

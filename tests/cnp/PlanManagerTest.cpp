@@ -14,9 +14,8 @@ using namespace planworld;
 
 using PlanManager = PlanTest; // the world's reload resets the manager before and after each test
 
+// Every code of the registry gives its plan (EveryPlanTest); nothing else does.
 TEST(PlanFactory, MatchesCallingCodesExactly) {
-    for (const char* code : PLAN_CODES)
-        EXPECT_FALSE(plan(code).isNull()) << code;
     for (const char* code : {"35", "0049", "+49", "49 ", "", "39", "3530"})
         EXPECT_EQ(KesCNPFactory::CreateInstance(code), nullptr) << code;
     EXPECT_NE(dynamic_cast<KesCNP_353*>(plan("353").get()), nullptr);

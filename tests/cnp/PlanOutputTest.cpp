@@ -1,4 +1,4 @@
-// What the plans write: their debug lines, only while tracing, and the fixed cases that the
+// What the plans write: their own debug lines, and the fixed cases that the
 // self-test entry points print.
 
 #include "PlanWorld.h"
@@ -27,29 +27,6 @@ template <class Run> std::string printed(Run run) {
 }
 
 } // namespace
-
-TEST_F(PlanOutput, EveryPlanTracesOnlyWhileTracing) {
-    const std::string number = "0201234567";
-    for (const char* country :
-         {"US", "RU", "NL", "BE", "FR", "CH", "AT", "GB", "DE", "MX", "AR", "CO", "AU", "NZ", "IE"}) {
-        const Site site{country, "0", 0, "1"};
-        const std::string className = "KesCNP_" + site.callingCode();
-        const std::string prefix = "DEBUG " + loggerOf(className) + " - ";
-        // The Colombian plan names Argentina. The rules' text ends in a NUL character, so the sink
-        // shows the line up to the rules only.
-        const std::string operation =
-            (className == "KesCNP_54" || className == "KesCNP_57" ? "DlrArgentinaMakeCanonicalNumber('"
-                                                                  : "dlr_Country_MakeCanonicalNumber('") +
-            number + "', 'CountryCode : '" + country + "'";
-        for (bool tracing : {false, true}) {
-            testhost::Tracing scope(tracing);
-            site.convert(number);
-            EXPECT_EQ(testhost::lines().empty(), !tracing) << site;
-            EXPECT_EQ(testhost::logged(prefix + className + "()"), tracing) << site;
-            EXPECT_EQ(testhost::logged(prefix + operation), tracing) << site;
-        }
-    }
-}
 
 TEST_F(PlanOutput, ThePlansOwnLines) {
     struct Case {

@@ -8,6 +8,7 @@
 
 #include "numbering/KesAreaCodePlan.h"
 #include "numbering/KesCNPFactory.h"
+#include "numbering/KesCNPRegistry.h"
 #include "numbering/KesDialRulesItem.h"
 #include "numbering/KesNumberingConfig.h"
 
@@ -15,56 +16,41 @@
 #include <gtest/gtest.h>
 
 #include <cstdio>
-#include <initializer_list>
+#include <map>
 #include <ostream>
 #include <string>
+#include <vector>
 
 namespace planworld {
-
-/// Every calling code with a plan.
-const char* const PLAN_CODES[] = {"1",  "7",  "31", "32", "33", "41", "43", "44",
-                                  "49", "52", "54", "57", "61", "64", "353"};
 
 /// "N9numbering9KesCNP_49E": the logger of a plan class.
 inline std::string loggerOf(const std::string& className) {
     return "N9numbering" + std::to_string(className.size()) + className + "E";
 }
 
-const char* const NO_FILE = "No specific dialing rules configuration file";
-const char* const IRELAND_UNOPENABLE = "No specific dialing rules configuration for Irelandd";
-const char* const IRELAND_NOT_FOUND = "No specific dialing rules configuration for Ireland";
-const char* const ARGENTINA = "No specific configuration file for Argentina";
-
-/// A plan that reads its area codes from "tz310cnp_<code>.properties": the texts it logs when that
-/// file cannot be opened and when it is missing (each plan's own, slips included: 44 names Austria,
-/// 353 writes "Irelandd"), whether it reads "Translate", and the codes the shared world gives it.
-const struct FilePlan {
-    const char* code;
-    const char* textWhenUnopenable;
-    const char* textWhenNotFound;
-    bool readsTranslate;
-    std::initializer_list<const char*> areaCodes;
-} FILE_PLANS[] = {
-    {"49", NO_FILE, NO_FILE, true, {"30", "89", "221", "711"}},
-    {"43", "No specific configuration file for Austria", NO_FILE, true, {"1", "316", "662"}},
-    {"31", "No specific configuration file for Netherlands", NO_FILE, true, {"20", "10"}},
-    {"32", "No specific configuration file for Belgium", NO_FILE, false, {"2", "9"}},
-    {"44", "No specific configuration file for Austria", NO_FILE, true, {"20", "161"}},
-    {"353", IRELAND_UNOPENABLE, IRELAND_NOT_FOUND, true, {"1"}},
-    {"54", ARGENTINA, ARGENTINA, true, {"11", "351"}},
-    {"61", "No specific configuration file for Australia", NO_FILE, true, {"2", "3"}},
-    {"52", "No specific configuration file for Mexico", NO_FILE, true, {"2222"}},
-};
+/// The area codes the shared world gives each plan that reads them (KesCNPRegistry says which).
+inline std::vector<const char*> worldAreaCodes(const std::string& code) {
+    static const std::map<std::string, std::vector<const char*>> codes = {
+        {"49", {"30", "89", "221", "711"}},
+        {"43", {"1", "316", "662"}},
+        {"31", {"20", "10"}},
+        {"32", {"2", "9"}},
+        {"44", {"20", "161"}},
+        {"353", {"1"}},
+        {"54", {"11", "351"}},
+        {"61", {"2", "3"}},
+        {"52", {"2222"}},
+    };
+    auto found = codes.find(code);
+    return found != codes.end() ? found->second : std::vector<const char*>{"20"};
+}
 
 inline std::string installationFile(const std::string& code) {
-    return "tz310cnp_" + code + ".properties";
-}
-inline std::string defaultFile(const std::string& code) {
-    return "tz310cnp_" + code + "_default.properties";
+    return numbering::KesCNPRegistry::installationFile(code);
 }
 
 /// "AC_0000=first\nAC_0001=second\n..." for `codes` in order.
-inline std::string areaCodeLines(std::initializer_list<const char*> codes) {
+inline std::string areaCodeLines(const std::vector<const char*>& codes) {
     std::string lines;
     int index = 0;
     for (const char* code : codes) {
@@ -77,7 +63,7 @@ inline std::string areaCodeLines(std::initializer_list<const char*> codes) {
 
 /// The installation plan file of `code`: "Translate" (unless null) and the area codes.
 inline void writePlanFile(const std::string& code, const char* translate,
-                          std::initializer_list<const char*> codes) {
+                          const std::vector<const char*>& codes) {
     std::string head = translate != nullptr ? std::string("Translate=") + translate + "\n" : std::string();
     testconfig::write(installationFile(code), head + areaCodeLines(codes));
 }
@@ -120,8 +106,9 @@ protected:
     void SetUp() override {
         testconfig::useStandardWorld();
         if (writesFiles)
-            for (const FilePlan& p : FILE_PLANS)
-                writePlanFile(p.code, "1", p.areaCodes);
+            for (const numbering::KesCNPRegistry::Plan& p : numbering::KesCNPRegistry::plans())
+                if (p.readsAreaCodes())
+                    writePlanFile(p.callingCode, "1", worldAreaCodes(p.callingCode));
         numbering::KesNumberingConfig::getInstance();
     }
     void TearDown() override { testconfig::reload(); }

@@ -4,17 +4,20 @@
 #include "numbering/KesCountryRuleItem.h"
 #include "numbering/KesDialRulesItem.h"
 #include "numbering/KesDialable.h"
+#include "numbering/KesDialableManager.h"
 #include "numbering/KesDialable_52.h"
 #include "numbering/KesDialable_54.h"
 #include "numbering/KesDialable_57.h"
 #include "numbering/KesDialable_61.h"
 #include "numbering/KesDialable_7.h"
+#include "numbering/KesNumberingRules.h"
 
 #include <Poco/AutoPtr.h>
 #include <gtest/gtest.h>
 
 #include <stdexcept>
 #include <string>
+#include <typeinfo>
 #include <vector>
 
 using namespace numbering;
@@ -234,4 +237,25 @@ TEST_F(CountryStrategies, GenericLongDistanceAndLocalRulesMergeThePrefix) {
         EXPECT_EQ(strategy.makeLocalDialableNumber(area, number, local.get()), c.expected)
             << "local " << c.rule << " " << c.area << "/" << c.number;
     }
+}
+
+// The manager lends each country its strategy, made once: five countries have classes of their own.
+TEST_F(CountryStrategies, TheManagerLendsEachCountryItsStrategy) {
+    KesDialableManager* manager = KesDialableManager::getInstance();
+    EXPECT_NE(dynamic_cast<KesDialable_7*>(manager->getDialable("7")), nullptr);
+    EXPECT_NE(dynamic_cast<KesDialable_52*>(manager->getDialable("52")), nullptr);
+    EXPECT_NE(dynamic_cast<KesDialable_54*>(manager->getDialable("54")), nullptr);
+    EXPECT_NE(dynamic_cast<KesDialable_57*>(manager->getDialable("57")), nullptr);
+    EXPECT_NE(dynamic_cast<KesDialable_61*>(manager->getDialable("61")), nullptr);
+    KesDialable* generic = manager->getDialable("999");
+    EXPECT_EQ(typeid(*generic), typeid(KesDialable));
+    EXPECT_EQ(manager->getDialable("57"), manager->getDialable("57"));
+    EXPECT_EQ(manager->getDialable(""), nullptr);
+}
+
+// A reload reads the operators at once: a strategy made afterwards knows them as they were.
+TEST_F(CountryStrategies, OperatorsAreReadAtTheReload) {
+    KesNumberingRules::reload();
+    testconfig::remove("tz310cnp_57.properties");
+    EXPECT_EQ(KesDialable_57().extractOperatorPrefix("4561234567"), "456");
 }

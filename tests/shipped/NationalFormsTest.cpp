@@ -4,6 +4,7 @@
 #include "ExampleNumbers.h"
 #include "TestHost.h"
 
+#include "numbering/KesCNPRegistry.h"
 #include "numbering/KesDialRulesItem.h"
 #include "numbering/KesNumberingRules.h"
 
@@ -19,9 +20,6 @@ using namespace numbering;
 using namespace shipped;
 
 namespace {
-
-const char* const PLAN_CODES[] = {"1",  "7",  "31", "32", "33", "41", "43", "44",
-                                  "49", "52", "54", "57", "61", "64", "353"};
 
 // Installations as "country outside-line-prefix own-area": every country with a plan (with some that
 // share a plan's calling code) and a spread of others, with a realistic outside-line prefix and own
@@ -66,9 +64,8 @@ std::vector<NationalCase> cases() {
                 std::istringstream(installation) >> country >> extPrefix >> ownArea;
         // Without a trunk prefix and without a plan there is neither an area code nor a national
         // prefix to put in the parentheses: the generic rules write "+cc number".
-        bool areaLayout = !examples.nationalPrefix.empty() ||
-                          std::find(std::begin(PLAN_CODES), std::end(PLAN_CODES), examples.callingCode) !=
-                              std::end(PLAN_CODES);
+        bool areaLayout =
+            !examples.nationalPrefix.empty() || KesCNPRegistry::find(examples.callingCode) != nullptr;
         for (bool mobile : {false, true}) {
             const std::string& nsn = mobile ? examples.mobile : examples.fixed;
             const char* prefix = examples.nationalPrefix.c_str();
@@ -95,6 +92,11 @@ TEST(ExampleNumbersFile, HoldsEveryCountryOfTheTables) {
         ASSERT_NE(examples, nullptr) << installation << ": no example numbers";
         EXPECT_FALSE(examples->mobile.empty()) << installation << ": no mobile example";
     }
+    for (const KesCNPRegistry::Plan& plan : KesCNPRegistry::plans())
+        EXPECT_TRUE(std::any_of(
+            std::begin(INSTALLATIONS), std::end(INSTALLATIONS),
+            [&](const std::string& installation) { return installation.rfind(plan.country, 0) == 0; }))
+            << "no installation in " << plan.country << ", the country of the plan of +" << plan.callingCode;
 }
 
 TEST_P(ShippedExamples, TypedNationallyGiveTheInternationalNumber) {
