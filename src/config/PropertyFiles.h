@@ -57,7 +57,7 @@ Poco::AutoPtr<Poco::Util::PropertyFileConfiguration> parseProperties(std::string
 /// any key does, but keys() does not list them.
 class NumberedProperties : public Poco::Util::PropertyFileConfiguration {
 public:
-    NumberedProperties(std::string_view text, std::string keyPrefix);
+    NumberedProperties(std::string_view text, std::string prefix);
 
     /// Calls `visit(value)` for the keys of the list from index 0000 on, in order, up to 9998, each
     /// value as getString() answers it. The first missing key ends the list by throwing

@@ -53,9 +53,9 @@ public:
     /// The object, or null when it is not made.
     T* get() const { return object.load(std::memory_order_acquire); }
 
-    /// The object, made by `make()` under the lifecycle mutex when there is none. `shown` says
+    /// The object, made by `make()` under the lifecycle mutex when there is none. `showIt` says
     /// whether the class's `instance` (and the places added by showAlsoAt) show it.
-    template <class Make> T& getOrMake(Make make, bool shown) {
+    template <class Make> T& getOrMake(Make make, bool showIt) {
         if (T* made = get())
             return *made;
         std::lock_guard<std::recursive_mutex> lock(lifecycleMutex());
@@ -69,7 +69,7 @@ public:
                 *place = current;
         };
         object.store(made, std::memory_order_release);
-        show(shown);
+        show(showIt);
         return *made;
     }
 
