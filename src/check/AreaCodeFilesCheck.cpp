@@ -29,7 +29,7 @@ std::string codesLost(int count) {
            " never read";
 }
 
-/// Walks the list from prefix + "0000" as the loaders do; returns the codes stored in the tree.
+/// Walks the list with the loaders' own walk; returns the codes stored in the tree.
 std::vector<std::string> walkNumberedList(CheckedFile& file, const NumberedList& list) {
     // The keys of the list as the file holds them, and those the walk never reaches.
     std::vector<int> indices;
@@ -53,63 +53,64 @@ std::vector<std::string> walkNumberedList(CheckedFile& file, const NumberedList&
     KesAreaCodeTree tree;
     std::vector<std::string> stored;
     std::map<std::string, std::string> keyOfCode;
-    for (int index = 0; index <= LAST_NUMBERED_INDEX; ++index) {
-        const std::string key = numberedKey(list.prefix, index);
-        if (!file.has(key)) {
-            const int after = readAfter(index);
-            if (after > 0) {
-                auto next = std::upper_bound(indices.begin(), indices.end(), index);
-                file.report(Severity::Error, numberedKey(list.prefix, *next),
-                            key + " is missing: the list ends at this gap, and the " + codesLost(after));
+    const int missing =
+        file.numberedList(list.prefix)->forEachRawNumberedValue([&](int index, std::string_view raw) {
+            const std::string key = numberedKey(list.prefix, index);
+            std::string why;
+            std::optional<std::string> value = holdsReferences(raw) ? file.value(key, why) : std::string(raw);
+            if (!value) {
+                file.reportUnreadable(key, why, "the list ends here, and the " + codesLost(readAfter(index)));
+                return false;
             }
-            break;
-        }
-        std::string why;
-        std::optional<std::string> value = file.value(key, why);
-        if (!value) {
-            file.reportUnreadable(key, why, "the list ends here, and the " + codesLost(readAfter(index)));
-            break;
-        }
-        const std::string digits = leadingDigits(*value);
-        if (digits.empty()) {
+            const std::string digits = leadingDigits(*value);
+            if (digits.empty()) {
+                file.report(Severity::Error, key,
+                            key + " = " + *value +
+                                " does not begin with a digit: the list ends here, and the " +
+                                codesLost(readAfter(index)));
+                return false;
+            }
+            if (digits.size() < value->size() &&
+                !Poco::Ascii::isSpace(static_cast<unsigned char>((*value)[digits.size()])))
+                file.report(Severity::Note, key,
+                            key + " = " + *value + ": only '" + digits +
+                                "' counts; text after the digits is dropped (separate a comment by a blank)");
+            if (list.longestCode != 0 && digits.size() > list.longestCode)
+                file.report(
+                    Severity::Error, key,
+                    key + ": " + list.what + " " + digits + " has " + std::to_string(digits.size()) +
+                        " digits, more than the " + std::to_string(list.longestCode) +
+                        " the library accepts for +" + list.callingCode +
+                        ": no number under it can be dialled (a canonical number is dialled only below " +
+                        std::to_string(KesNumberingConfig::MAX_PHONE_NUMBER_LENGTH) + " characters)");
+            if (tree.insert(digits)) {
+                stored.push_back(digits);
+                keyOfCode.emplace(digits, key);
+                return true;
+            }
+            // Refused by the tree: stored already, or the beginning of a longer code stored before it.
+            if (tree.extractAreaCode(digits) == digits) {
+                file.report(Severity::Warning, key,
+                            key + ": " + list.what + " " + digits + " is listed already (" +
+                                keyOfCode[digits] + "): the repeat changes nothing");
+                return true;
+            }
+            auto longer = std::find_if(stored.begin(), stored.end(), [&](const std::string& code) {
+                return code.size() > digits.size() && code.compare(0, digits.size(), digits) == 0;
+            });
+            const std::string before = longer == stored.end() ? std::string() : *longer;
             file.report(Severity::Error, key,
-                        key + " = " + *value + " does not begin with a digit: the list ends here, and the " +
-                            codesLost(readAfter(index)));
-            break;
-        }
-        if (digits.size() < value->size() &&
-            !Poco::Ascii::isSpace(static_cast<unsigned char>((*value)[digits.size()])))
-            file.report(Severity::Note, key,
-                        key + " = " + *value + ": only '" + digits +
-                            "' counts; text after the digits is dropped (separate a comment by a blank)");
-        if (list.longestCode != 0 && digits.size() > list.longestCode)
-            file.report(Severity::Error, key,
-                        key + ": " + list.what + " " + digits + " has " + std::to_string(digits.size()) +
-                            " digits, more than the " + std::to_string(list.longestCode) +
-                            " the library accepts for +" + list.callingCode +
-                            ": no number under it can be dialled (a canonical number is dialled only below " +
-                            std::to_string(KesNumberingConfig::MAX_PHONE_NUMBER_LENGTH) + " characters)");
-        if (tree.insert(digits)) {
-            stored.push_back(digits);
-            keyOfCode.emplace(digits, key);
-            continue;
-        }
-        // Refused by the tree: stored already, or the beginning of a longer code stored before it.
-        if (tree.extractAreaCode(digits) == digits) {
-            file.report(Severity::Warning, key,
-                        key + ": " + list.what + " " + digits + " is listed already (" + keyOfCode[digits] +
-                            "): the repeat changes nothing");
-            continue;
-        }
-        auto longer = std::find_if(stored.begin(), stored.end(), [&](const std::string& code) {
-            return code.size() > digits.size() && code.compare(0, digits.size(), digits) == 0;
+                        key + ": " + list.what + " " + digits + " comes after " + before + " (" +
+                            keyOfCode[before] + "), which begins with it: the library never finds " + digits +
+                            " as an " + list.what + " (list shorter codes first)");
+            return true;
         });
-        const std::string before = longer == stored.end() ? std::string() : *longer;
-        file.report(Severity::Error, key,
-                    key + ": " + list.what + " " + digits + " comes after " + before + " (" +
-                        keyOfCode[before] + "), which begins with it: the library never finds " + digits +
-                        " as an " + list.what + " (list shorter codes first)");
-    }
+    const int after = missing < 0 ? 0 : readAfter(missing);
+    if (after > 0) // reported at the first key the gap hides
+        file.report(Severity::Error,
+                    numberedKey(list.prefix, *std::upper_bound(indices.begin(), indices.end(), missing)),
+                    numberedKey(list.prefix, missing) + " is missing: the list ends at this gap, and the " +
+                        codesLost(after));
     return stored;
 }
 
