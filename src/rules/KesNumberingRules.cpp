@@ -46,7 +46,7 @@ void readAtReload(Generation& fresh) {
 } // namespace
 
 KesNumberingRules* KesNumberingRules::getInstance() {
-    return &Generation::facade().getOrMake([] { return new KesNumberingRules(); }, true);
+    return &Generation::facade().getOrMake([] { return new KesNumberingRules(); }, [] { return true; });
 }
 
 void KesNumberingRules::resetInstance() {
