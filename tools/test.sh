@@ -1,10 +1,10 @@
 #!/usr/bin/env bash
 # Sets up a fresh Debian 12 machine (as root) with what the build needs, checks that every C++ file
-# is laid out as the committed .clang-format lays it out, then builds and runs every test of the
-# library three ways: the normal build (with the checks of what is shipped: exported symbols, prefix
-# install, Debian packages under lintian, generated configuration, and the API reference without a
-# Doxygen warning), the whole suite under AddressSanitizer and UBSan (with a short run of each
-# fuzzer), and the concurrency test under ThreadSanitizer.
+# is laid out as the committed .clang-format lays it out, then builds with warnings as errors and
+# runs every test of the library three ways: the normal build (with the checks of what is shipped:
+# exported symbols, prefix install, Debian packages under lintian, generated configuration, and the
+# API reference without a Doxygen warning), the whole suite under AddressSanitizer and UBSan (with a
+# short run of each fuzzer), and the concurrency test under ThreadSanitizer.
 set -euo pipefail
 cd "$(dirname "$0")/.."
 
@@ -19,14 +19,14 @@ find include src tests tools bench fuzz examples -name '*.h' -o -name '*.cpp' | 
   xargs clang-format-14 --dry-run --Werror
 
 echo "== normal build"
-cmake -S . -B build -DCMAKE_BUILD_TYPE=RelWithDebInfo -DNUMBERING_BUILD_BENCH=ON >/dev/null
+cmake -S . -B build -DCMAKE_BUILD_TYPE=RelWithDebInfo -DNUMBERING_BUILD_BENCH=ON -DNUMBERING_WERROR=ON >/dev/null
 cmake --build build -j"$jobs"
 ctest --test-dir build -j"$jobs" --output-on-failure
 cmake --build build --target docs # the API reference: any Doxygen warning fails the build
 
 echo "== AddressSanitizer and UBSan build, with the fuzzers"
 CXX=clang++ cmake -S . -B build-sanitize -DCMAKE_BUILD_TYPE=Debug -DNUMBERING_SANITIZE=address,undefined \
-  -DNUMBERING_BUILD_FUZZ=ON >/dev/null
+  -DNUMBERING_BUILD_FUZZ=ON -DNUMBERING_WERROR=ON >/dev/null
 cmake --build build-sanitize -j"$jobs"
 ASAN_OPTIONS=detect_leaks=1 ctest --test-dir build-sanitize -j"$jobs" --output-on-failure
 # Each target's inputs may grow to its largest seed (at least 4096 bytes), so that no seed is cut.
@@ -47,6 +47,7 @@ for target in conversions property_files; do
 done
 
 echo "== ThreadSanitizer build of the concurrency test"
-CXX=clang++ cmake -S . -B build-tsan -DCMAKE_BUILD_TYPE=RelWithDebInfo -DNUMBERING_SANITIZE=thread >/dev/null
+CXX=clang++ cmake -S . -B build-tsan -DCMAKE_BUILD_TYPE=RelWithDebInfo -DNUMBERING_SANITIZE=thread \
+  -DNUMBERING_WERROR=ON >/dev/null
 cmake --build build-tsan -j"$jobs" --target test_concurrency
 TSAN_OPTIONS=halt_on_error=1 ctest --test-dir build-tsan -R '^concurrency$' --output-on-failure

@@ -17,7 +17,7 @@ public:
     static KesEnumOrigin PUBLIC_1;      ///< in the installation's own area
 
 private:
-    explicit KesEnumOrigin(std::string name) : TypesafeEnum(std::move(name)) {}
+    explicit KesEnumOrigin(std::string text) : TypesafeEnum(std::move(text)) {}
 };
 
 } // namespace numbering

@@ -29,53 +29,66 @@ std::string codesLost(int count) {
            " never read";
 }
 
-/// Walks the list from prefix + "0000" as the loaders do; returns the codes stored in the tree.
-std::vector<std::string> walkNumberedList(CheckedFile& file, const NumberedList& list) {
-    // The keys of the list as the file holds them, and those the walk never reaches.
-    std::vector<int> indices;
-    for (const std::string& key : file.keys()) {
-        if (key.size() == list.prefix.size() || key.compare(0, list.prefix.size(), list.prefix) != 0 ||
-            leadingDigits(key.substr(list.prefix.size())).size() != key.size() - list.prefix.size())
-            continue; // not a numbered key ("OP_DEFAULT")
-        const int index = numberedIndex(list.prefix, key);
-        if (index >= 0 && index <= LAST_NUMBERED_INDEX)
-            indices.push_back(index);
-        else
-            file.report(Severity::Warning, key,
-                        key + " is never read: the list runs from " + numberedKey(list.prefix, 0) + " to " +
-                            numberedKey(list.prefix, LAST_NUMBERED_INDEX));
-    }
-    std::sort(indices.begin(), indices.end());
-    auto readAfter = [&](int index) {
-        return static_cast<int>(indices.end() - std::upper_bound(indices.begin(), indices.end(), index));
-    };
+/// One numbered list, walked by the loaders' own walk: a code stored, refused or ending the list
+/// as the loaders store, refuse or end on it.
+class NumberedListCheck {
+public:
+    NumberedListCheck(CheckedFile& checked, const NumberedList& kind) : file(checked), list(kind) {}
 
-    KesAreaCodeTree tree;
-    std::vector<std::string> stored;
-    std::map<std::string, std::string> keyOfCode;
-    for (int index = 0; index <= LAST_NUMBERED_INDEX; ++index) {
-        const std::string key = numberedKey(list.prefix, index);
-        if (!file.has(key)) {
-            const int after = readAfter(index);
-            if (after > 0) {
-                auto next = std::upper_bound(indices.begin(), indices.end(), index);
-                file.report(Severity::Error, numberedKey(list.prefix, *next),
-                            key + " is missing: the list ends at this gap, and the " + codesLost(after));
-            }
-            break;
+    /// Returns the codes stored in the tree.
+    std::vector<std::string> walk() {
+        findIndices();
+        const int missing =
+            file.numberedList(list.prefix)->forEachRawNumberedValue([this](int index, std::string_view raw) {
+                return read(index, raw);
+            });
+        const int after = missing < 0 ? 0 : readAfter(missing);
+        if (after > 0) // reported at the first key the gap hides
+            file.report(Severity::Error,
+                        numberedKey(list.prefix, *std::upper_bound(indices.begin(), indices.end(), missing)),
+                        numberedKey(list.prefix, missing) +
+                            " is missing: the list ends at this gap, and the " + codesLost(after));
+        return stored;
+    }
+
+private:
+    /// The keys of the list as the file holds them, and those the walk never reaches.
+    void findIndices() {
+        for (const std::string& key : file.keys()) {
+            if (key.size() == list.prefix.size() || key.compare(0, list.prefix.size(), list.prefix) != 0 ||
+                leadingDigits(key.substr(list.prefix.size())).size() != key.size() - list.prefix.size())
+                continue; // not a numbered key ("OP_DEFAULT")
+            const int index = numberedIndex(list.prefix, key);
+            if (index >= 0 && index <= LAST_NUMBERED_INDEX)
+                indices.push_back(index);
+            else
+                file.report(Severity::Warning, key,
+                            key + " is never read: the list runs from " + numberedKey(list.prefix, 0) +
+                                " to " + numberedKey(list.prefix, LAST_NUMBERED_INDEX));
         }
+        std::sort(indices.begin(), indices.end());
+    }
+
+    int readAfter(int index) const {
+        return static_cast<int>(indices.end() - std::upper_bound(indices.begin(), indices.end(), index));
+    }
+
+    /// One value of the list; false when the loaders' walk ends on it.
+    bool read(int index, std::string_view raw) {
+        const std::string key = numberedKey(list.prefix, index);
         std::string why;
-        std::optional<std::string> value = file.value(key, why);
+        const std::optional<std::string> value =
+            holdsReferences(raw) ? file.value(key, why) : std::string(raw);
         if (!value) {
             file.reportUnreadable(key, why, "the list ends here, and the " + codesLost(readAfter(index)));
-            break;
+            return false;
         }
         const std::string digits = leadingDigits(*value);
         if (digits.empty()) {
             file.report(Severity::Error, key,
                         key + " = " + *value + " does not begin with a digit: the list ends here, and the " +
                             codesLost(readAfter(index)));
-            break;
+            return false;
         }
         if (digits.size() < value->size() &&
             !Poco::Ascii::isSpace(static_cast<unsigned char>((*value)[digits.size()])))
@@ -89,17 +102,22 @@ std::vector<std::string> walkNumberedList(CheckedFile& file, const NumberedList&
                             " the library accepts for +" + list.callingCode +
                             ": no number under it can be dialled (a canonical number is dialled only below " +
                             std::to_string(KesNumberingConfig::MAX_PHONE_NUMBER_LENGTH) + " characters)");
+        store(key, digits);
+        return true;
+    }
+
+    void store(const std::string& key, const std::string& digits) {
         if (tree.insert(digits)) {
             stored.push_back(digits);
             keyOfCode.emplace(digits, key);
-            continue;
+            return;
         }
         // Refused by the tree: stored already, or the beginning of a longer code stored before it.
         if (tree.extractAreaCode(digits) == digits) {
             file.report(Severity::Warning, key,
                         key + ": " + list.what + " " + digits + " is listed already (" + keyOfCode[digits] +
                             "): the repeat changes nothing");
-            continue;
+            return;
         }
         auto longer = std::find_if(stored.begin(), stored.end(), [&](const std::string& code) {
             return code.size() > digits.size() && code.compare(0, digits.size(), digits) == 0;
@@ -110,8 +128,14 @@ std::vector<std::string> walkNumberedList(CheckedFile& file, const NumberedList&
                         keyOfCode[before] + "), which begins with it: the library never finds " + digits +
                         " as an " + list.what + " (list shorter codes first)");
     }
-    return stored;
-}
+
+    CheckedFile& file;
+    const NumberedList& list;
+    std::vector<int> indices; // of the keys of the list the file holds, ascending
+    KesAreaCodeTree tree;
+    std::vector<std::string> stored;
+    std::map<std::string, std::string> keyOfCode;
+};
 
 } // namespace
 
@@ -136,7 +160,7 @@ std::vector<std::string> checkAreaCodes(CheckedFile& file, const AreaCodePlan& p
             file.report(Severity::Warning, "Translate",
                         "Translate = " + *translate + " switches translation off: only 1 switches it on");
     }
-    return walkNumberedList(file, {"AC_", "area code", longestAreaCode(callingCode), callingCode});
+    return NumberedListCheck(file, {"AC_", "area code", longestAreaCode(callingCode), callingCode}).walk();
 }
 
 void checkOperators(CheckedFile& file) {
@@ -157,7 +181,7 @@ void checkOperators(CheckedFile& file) {
                             ": the default operator is dialled exactly as written, behind the trunk and the "
                             "international prefix, so it must be digits");
     }
-    walkNumberedList(file, {"OP_", "operator prefix", 0, "57"});
+    NumberedListCheck(file, {"OP_", "operator prefix", 0, "57"}).walk();
 }
 
 std::string listed(const std::vector<std::string>& items) {

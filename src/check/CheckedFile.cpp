@@ -1,6 +1,6 @@
 #include "CheckedFile.h"
 
-#include <Poco/Ascii.h>
+#include "config/PropertyRules.h"
 
 #include <algorithm>
 #include <cstdio>
@@ -18,57 +18,16 @@ const int DEEPEST_REFERENCE = 10;
 // Longer expansions are not built: nested references can multiply a value without bound.
 const std::size_t LONGEST_EXPANSION = std::size_t(1) << 20;
 
-std::string trimmed(const std::string& text) {
-    std::string::size_type begin = 0, end = text.size();
-    while (begin < end && Poco::Ascii::isSpace(static_cast<unsigned char>(text[begin])))
-        ++begin;
-    while (end > begin && Poco::Ascii::isSpace(static_cast<unsigned char>(text[end - 1])))
-        --end;
-    return text.substr(begin, end - begin);
-}
-
 std::size_t saturatedSum(std::size_t a, std::size_t b) {
     return a > std::numeric_limits<std::size_t>::max() - b ? std::numeric_limits<std::size_t>::max() : a + b;
-}
-
-/// The key a line sets ("" for blank and comment lines) and whether its value goes on over the
-/// next line (a backslash right before the line end).
-std::pair<std::string, bool> keyOfLine(const std::string& line) {
-    const std::string text = trimmed(line);
-    if (text.empty() || text[0] == '#' || text[0] == '!')
-        return {std::string(), false};
-    std::size_t backslashes = 0;
-    while (backslashes < line.size() && line[line.size() - 1 - backslashes] == '\\')
-        ++backslashes;
-    return {trimmed(text.substr(0, text.find_first_of("=:"))), backslashes % 2 == 1};
 }
 
 } // namespace
 
 CheckedFile::CheckedFile(std::string path, PropertyText opened, std::vector<KesConfigurationFinding>* sink)
     : filePath(std::move(path)), file(std::move(opened)), findings(sink) {
-    const std::string_view text = file.text;
-    int number = 0;
-    bool continued = false;
-    for (std::string_view::size_type start = 0; start < text.size();) {
-        std::string_view::size_type next = std::min(text.find('\n', start), text.size());
-        std::string_view line = text.substr(start, next - start);
-        start = next + 1;
-        ++number;
-        // The reader also ends a line at a carriage return or a NUL byte ("\r\n" is one line end).
-        if (!line.empty() && line.back() == '\r')
-            line.remove_suffix(1);
-        for (bool last = false; !last;) {
-            const std::string_view::size_type end = line.find_first_of(std::string_view("\r\0", 2));
-            last = end == std::string_view::npos;
-            const auto [key, continues] = keyOfLine(std::string(line.substr(0, end)));
-            if (!continued && !key.empty())
-                linesOfKey[key].push_back(number);
-            continued = continues;
-            if (!last)
-                line.remove_prefix(end + 1);
-        }
-    }
+    for (const KeyLine& set : keyLines(file.text))
+        linesOfKey[set.key].push_back(set.line);
 }
 
 std::vector<std::string> CheckedFile::keys() const {
@@ -98,6 +57,10 @@ std::optional<std::string> CheckedFile::value(const std::string& key, std::strin
         why = e.what();
         return std::nullopt;
     }
+}
+
+Poco::AutoPtr<NumberedProperties> CheckedFile::numberedList(const std::string& prefix) const {
+    return readNumberedList(file, prefix);
 }
 
 void CheckedFile::report(Severity severity, const std::string& key, const std::string& message) {
@@ -151,23 +114,14 @@ CheckedFile::Expansion& CheckedFile::expansionOf(const std::string& key) const {
     auto found = expansions.find(key);
     if (found != expansions.end())
         return found->second;
-    // Scanned as the reader expands: "${" opens a name up to the next "}" (or the end); a name
-    // that is no key stays as written, a lone "$" stays itself.
     Expansion expansion;
-    const std::string raw = file.properties->getRawString(key, std::string());
-    for (std::string::size_type i = 0; i < raw.size();) {
-        if (raw.compare(i, 2, "${") != 0) {
-            ++expansion.length;
-            ++i;
-            continue;
-        }
-        std::string::size_type close = raw.find('}', i + 2);
-        std::string name = raw.substr(i + 2, close == std::string::npos ? std::string::npos : close - i - 2);
-        i = close == std::string::npos ? raw.size() : close + 1;
+    const References read = readReferences(file.properties->getRawString(key, std::string()));
+    expansion.length = read.textLength;
+    for (const std::string& name : read.names) {
         if (has(name)) {
             expansion.references.push_back(name);
         } else {
-            expansion.length += name.size() + 3;
+            expansion.length += name.size() + 3; // kept as written: "${" name "}"
             expansion.unresolved.push_back(name);
         }
     }
@@ -284,7 +238,7 @@ void CheckedFile::checkText() {
                    key + " is set again on line " + std::to_string(lines.back()) +
                        ": the library keeps only the last value");
     for (const auto& line : linesOfKey)
-        if (has(line.first) && file.properties->getRawString(line.first).find("${") != std::string::npos)
+        if (has(line.first) && holdsReferences(file.properties->getRawString(line.first)))
             checkReferences(line.first);
 }
 

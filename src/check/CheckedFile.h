@@ -2,8 +2,7 @@
 #define NUMBERING_SRC_CHECK_CHECKEDFILE_H
 
 // One property file under check: its values as the library's reader gives them, the line of each
-// key (found by a plain scan of the text, which gives lines only, never meaning), and the findings
-// about it.
+// key (as the reader cuts the text into lines), and the findings about it.
 
 #include "PropertyReading.h"
 #include "numbering/KesConfigurationCheck.h"
@@ -32,6 +31,8 @@ public:
     /// The value of `key` as the library reads it, or none when the reader fails on it; `why` then
     /// says why. Values whose references would expand to an absurd size are not expanded.
     std::optional<std::string> value(const std::string& key, std::string& why) const;
+    /// The file as the loaders read its numbered list `prefix` ("AC_", "OP_").
+    Poco::AutoPtr<NumberedProperties> numberedList(const std::string& prefix) const;
 
     /// Records a finding about `key`, at its line (the last line that sets it).
     void report(Severity severity, const std::string& key, const std::string& message);

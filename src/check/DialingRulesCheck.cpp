@@ -38,7 +38,7 @@ std::string meaningless(const std::string& rule, std::string::size_type from, co
 
 class RowCheck {
 public:
-    RowCheck(CheckedFile& file, DialingRules& rules) : file(file), rules(rules) {}
+    RowCheck(CheckedFile& checked, DialingRules& loaded) : file(checked), rules(loaded) {}
 
     void check(const std::string& key, const DialingRuleFields& row) {
         checkKey(key, row);

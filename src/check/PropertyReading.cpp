@@ -12,5 +12,9 @@ PropertyText openPropertyFile(const std::string& path) {
     return file;
 }
 
+Poco::AutoPtr<NumberedProperties> readNumberedList(const PropertyText& file, const std::string& prefix) {
+    return new NumberedProperties(file.text, prefix);
+}
+
 } // namespace configcheck
 } // namespace numbering

@@ -5,6 +5,8 @@
 // that it opens and reads every file exactly as the loaders do and follows them when the reader
 // changes.
 
+#include "config/PropertyFiles.h"
+
 #include <Poco/AutoPtr.h>
 #include <Poco/Util/AbstractConfiguration.h>
 
@@ -24,6 +26,9 @@ struct PropertyText {
 /// it does not exist, Poco::OpenFileException (whose message says why) when it cannot be read. A
 /// directory, a FIFO or a device cannot be opened: the check never waits for a writer.
 PropertyText openPropertyFile(const std::string& path);
+
+/// `file` read as the loaders read a numbered list of keys `prefix` + "%04d".
+Poco::AutoPtr<NumberedProperties> readNumberedList(const PropertyText& file, const std::string& prefix);
 
 } // namespace configcheck
 } // namespace numbering

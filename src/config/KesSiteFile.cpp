@@ -33,22 +33,6 @@ std::string::size_type firstNonDigit(const std::string& text) {
     return text.find_first_not_of("0123456789");
 }
 
-/// The line of each key, as Poco's reader takes keys: blank and comment lines skipped, the key
-/// ending at the first '=' or ':'; a later line of a key replaces an earlier one.
-std::map<std::string, int> keyLines(const std::string& text) {
-    std::map<std::string, int> lines;
-    std::istringstream stream(text);
-    int number = 0;
-    for (std::string line; std::getline(stream, line);) {
-        ++number;
-        const std::string trimmed = Poco::trim(line);
-        if (trimmed.empty() || trimmed[0] == '#' || trimmed[0] == '!')
-            continue;
-        lines[Poco::trim(trimmed.substr(0, trimmed.find_first_of("=:")))] = number;
-    }
-    return lines;
-}
-
 } // namespace
 
 KesSiteFile KesSiteFile::read(const std::string& path) {
@@ -61,7 +45,8 @@ KesSiteFile KesSiteFile::read(const std::string& path) {
         throw std::runtime_error("cannot open the site file " + path + ": " + e.displayText());
     }
     const auto properties = parseProperties(text);
-    site.lines = keyLines(text);
+    for (const KeyLine& set : keyLines(text))
+        site.lines[set.key] = set.line; // a later line of a key replaces an earlier one
     auto finding = [&](const std::string& key, Severity severity, const std::string& message) {
         site.readingFindings.push_back({severity, path, key, site.lines[key], message});
     };

@@ -19,7 +19,7 @@ namespace {
 /// Closes a descriptor when reading ends, however it ends.
 class Descriptor {
 public:
-    explicit Descriptor(int descriptor) : descriptor(descriptor) {}
+    explicit Descriptor(int opened) : descriptor(opened) {}
     Descriptor(const Descriptor&) = delete;
     Descriptor& operator=(const Descriptor&) = delete;
     ~Descriptor() { ::close(descriptor); }
@@ -122,8 +122,8 @@ Poco::AutoPtr<Poco::Util::PropertyFileConfiguration> parseProperties(std::string
     return new Poco::Util::PropertyFileConfiguration(stream);
 }
 
-NumberedProperties::NumberedProperties(std::string_view text, std::string keyPrefix)
-    : keyPrefix(std::move(keyPrefix)) {
+NumberedProperties::NumberedProperties(std::string_view text, std::string prefix)
+    : keyPrefix(std::move(prefix)) {
     buffer.reserve(text.size()); // no value is longer than the text it is read from
     // Poco hands every property to setRaw() as it reads them, which is ours once this object is
     // whole: the load cannot go through the base class's constructor.

@@ -57,12 +57,17 @@ Poco::AutoPtr<Poco::Util::PropertyFileConfiguration> parseProperties(std::string
 /// any key does, but keys() does not list them.
 class NumberedProperties : public Poco::Util::PropertyFileConfiguration {
 public:
-    NumberedProperties(std::string_view text, std::string keyPrefix);
+    NumberedProperties(std::string_view text, std::string prefix);
 
     /// Calls `visit(value)` for the keys of the list from index 0000 on, in order, up to 9998, each
     /// value as getString() answers it. The first missing key ends the list by throwing
     /// Poco::NotFoundException, as getString() does for it: a normal file ends so.
     template <class Visit> void forEachNumberedValue(Visit visit) const;
+
+    /// The walk underneath: calls `visit(index, value)` from index 0000 on, in order, each value as
+    /// the file holds it (references unexpanded), while the keys are there and `visit` returns true.
+    /// Returns the index of the missing key that ended the list, or -1.
+    template <class Visit> int forEachRawNumberedValue(Visit visit) const;
 
 protected:
     ~NumberedProperties() override;
@@ -87,18 +92,28 @@ private:
 
 template <class Visit> void NumberedProperties::forEachNumberedValue(Visit visit) const {
     std::string expanded;
-    for (int index = 0; index <= LAST_NUMBERED_INDEX; ++index) {
-        const auto slot = static_cast<std::size_t>(index);
-        if (slot >= values.size() || !values[slot].present)
-            throw Poco::NotFoundException(numberedKey(keyPrefix, index));
-        const std::string_view value = valueOf(values[slot]);
-        if (value.find("${") == std::string_view::npos) {
+    const int missing = forEachRawNumberedValue([&](int index, std::string_view value) {
+        if (!holdsReferences(value)) {
             visit(value);
         } else {
             expanded = getString(numberedKey(keyPrefix, index));
             visit(std::string_view(expanded));
         }
+        return true;
+    });
+    if (missing >= 0)
+        throw Poco::NotFoundException(numberedKey(keyPrefix, missing));
+}
+
+template <class Visit> int NumberedProperties::forEachRawNumberedValue(Visit visit) const {
+    for (int index = 0; index <= LAST_NUMBERED_INDEX; ++index) {
+        const auto slot = static_cast<std::size_t>(index);
+        if (slot >= values.size() || !values[slot].present)
+            return index;
+        if (!visit(index, valueOf(values[slot])))
+            return -1;
     }
+    return -1;
 }
 
 } // namespace numbering

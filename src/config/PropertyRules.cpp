@@ -6,9 +6,60 @@
 #include <Poco/String.h>
 #include <Poco/StringTokenizer.h>
 
+#include <algorithm>
 #include <cstdlib>
 
 namespace numbering {
+
+std::vector<KeyLine> keyLines(std::string_view text) {
+    std::vector<KeyLine> lines;
+    int number = 0;
+    bool continued = false;
+    // One piece of a line up to a carriage return or a NUL byte, which the reader also ends it at.
+    auto piece = [&](std::string_view part) {
+        const std::string_view content = trimmed(part);
+        const bool setsKey = !content.empty() && content[0] != '#' && content[0] != '!';
+        if (setsKey && !continued) {
+            const std::string_view key = trimmed(content.substr(0, content.find_first_of("=:")));
+            if (!key.empty())
+                lines.push_back({std::string(key), number});
+        }
+        std::size_t backslashes = 0;
+        while (backslashes < part.size() && part[part.size() - 1 - backslashes] == '\\')
+            ++backslashes;
+        continued = setsKey && backslashes % 2 == 1;
+    };
+    for (std::string_view::size_type start = 0; start < text.size();) {
+        const std::string_view::size_type next = std::min(text.find('\n', start), text.size());
+        std::string_view line = text.substr(start, next - start);
+        start = next + 1;
+        ++number;
+        if (!line.empty() && line.back() == '\r') // "\r\n" is one line end
+            line.remove_suffix(1);
+        for (std::string_view::size_type end;
+             (end = line.find_first_of(std::string_view("\r\0", 2))) != std::string_view::npos;
+             line.remove_prefix(end + 1))
+            piece(line.substr(0, end));
+        piece(line);
+    }
+    return lines;
+}
+
+References readReferences(std::string_view value) {
+    References read;
+    for (std::string_view::size_type i = 0; i < value.size();) {
+        if (value.compare(i, 2, "${") != 0) {
+            ++read.textLength;
+            ++i;
+            continue;
+        }
+        const std::string_view::size_type close = value.find('}', i + 2);
+        read.names.emplace_back(
+            value.substr(i + 2, close == std::string_view::npos ? std::string_view::npos : close - i - 2));
+        i = close == std::string_view::npos ? value.size() : close + 1;
+    }
+    return read;
+}
 
 DialingRuleFields splitDialingRule(const std::string& value) {
     Poco::StringTokenizer tokens(value, ":");

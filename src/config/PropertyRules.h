@@ -11,8 +11,34 @@
 #include <optional>
 #include <string>
 #include <string_view>
+#include <vector>
 
 namespace numbering {
+
+/// A line of a property file that sets a key, as Poco's reader cuts the text: a line ends at "\n",
+/// "\r\n", "\r" or a NUL byte; blank lines and comments ("#", "!") set nothing; the key, trimmed,
+/// ends at the first "=" or ":"; a line ending in an odd number of backslashes goes on over the
+/// next one, which sets no key. `line` counts "\n" line ends only, as an editor does.
+struct KeyLine {
+    std::string key;
+    int line;
+};
+/// The lines of `text` that set a key, in the order of the file.
+std::vector<KeyLine> keyLines(std::string_view text);
+
+/// Whether a value as the file holds it has "${name}" references, which reading replaces by the
+/// value of the key `name`.
+inline bool holdsReferences(std::string_view value) {
+    return value.find("${") != std::string_view::npos;
+}
+
+/// A value as the file holds it, cut as Poco expands its references: "${" opens a name up to the
+/// next "}" or the end of the value; a lone "$" is text.
+struct References {
+    std::vector<std::string> names; // in order, once per mention
+    std::size_t textLength = 0;     // the characters outside the references
+};
+References readReferences(std::string_view value);
 
 /// A dialing rules value cut at ":" (no trimming, empty fields kept): calling code, international
 /// prefix, international rule, long-distance rule, local rule, name, primary flag. Fields beyond

@@ -164,6 +164,8 @@ const BrokenConfiguration BROKEN[] = {
     {MASKS_FILE, MASKS + std::string("Mask_7_1=+C\0x\n", 14), ERROR, 5, "NUL byte"},
     {MASKS_FILE, MASKS + "\x01\x02\x03\n", ERROR, 5, "binary content (byte 0x01)"},
     {MASKS_FILE, "Mask_49_1=+C x\n" + MASKS, WARNING, 1, "Mask_49_1 is set again on line 4"},
+    // A line ending in a backslash goes on over the next, which sets no key of its own.
+    {MASKS_FILE, MASKS + "Mask_7_1=+C x\\\n Mask_7_1=x\n", WARNING, 5, "is neither a mask letter"},
     {MASKS_FILE, MASKS + "Mask_7_1=${nothing}\n", WARNING, 5, "'${nothing}' names no key of this file"},
     {AREA_FILE, "Translate=${AC_0000}\nAC_0000=${Translate}\n", ERROR, 1,
      "Translate cannot be read (its references lead back to a key they are expanding)"},

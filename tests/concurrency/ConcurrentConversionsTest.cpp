@@ -198,8 +198,8 @@ const ConfigurationCopy::Files VARIANT_B = {
 /// answers of the configurations it may meet.
 class Converters {
 public:
-    explicit Converters(std::vector<std::vector<std::vector<std::string>>> answers)
-        : answers(std::move(answers)) {
+    explicit Converters(std::vector<std::vector<std::vector<std::string>>> expected)
+        : answers(std::move(expected)) {
         for (int t = 0; t < THREADS; ++t)
             threads.emplace_back([this, t] { run(t); });
     }

@@ -18,17 +18,17 @@ TEST(UnopenableFiles, AreReadAsUnopenableAndTheDefaultFileIsUsed) {
     const std::string path = testconfig::directory() + "dialingrules.properties";
     const struct {
         const char* kind;
-        bool (*make)(const std::string& path);
+        bool (*make)(const std::string& file);
     } kinds[] = {
-        {"directory", [](const std::string& path) { return ::mkdir(path.c_str(), 0755) == 0; }},
-        {"FIFO", [](const std::string& path) { return ::mkfifo(path.c_str(), 0644) == 0; }},
+        {"directory", [](const std::string& file) { return ::mkdir(file.c_str(), 0755) == 0; }},
+        {"FIFO", [](const std::string& file) { return ::mkfifo(file.c_str(), 0644) == 0; }},
         {"symbolic link loop",
-         [](const std::string& path) { return ::symlink(path.c_str(), path.c_str()) == 0; }},
+         [](const std::string& file) { return ::symlink(file.c_str(), file.c_str()) == 0; }},
         // Root reads a file without read permission all the same.
         {"no read permission",
-         [](const std::string& path) {
+         [](const std::string& file) {
              testconfig::write("dialingrules.properties", "FR = 33:00:EF:0F::France:P\n");
-             return ::geteuid() != 0 && ::chmod(path.c_str(), 0) == 0;
+             return ::geteuid() != 0 && ::chmod(file.c_str(), 0) == 0;
          }},
     };
     for (const auto& kind : kinds) {

@@ -128,4 +128,4 @@ TEST_P(ShippedExamples, TypedNationallyGiveTheInternationalNumber) {
 }
 
 INSTANTIATE_TEST_SUITE_P(Shipped, ShippedExamples, ::testing::ValuesIn(cases()),
-                         [](const ::testing::TestParamInfo<NationalCase>& info) { return info.param.name; });
+                         [](const ::testing::TestParamInfo<NationalCase>& test) { return test.param.name; });
