@@ -27,6 +27,8 @@ struct NUMBERING_API KesConfigurationFinding {
 
     /// "note", "warning" or "error".
     static const char* severityName(Severity severity);
+    /// The finding on one line: "FILE:LINE: SEVERITY: MESSAGE", without "LINE:" when it is 0.
+    std::string text() const;
 };
 
 /// One configuration file as the library reads it: the installation file, or its default when the

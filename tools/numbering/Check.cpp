@@ -19,13 +19,8 @@ std::string counted(int count, const std::string& what) {
 
 int runCheck(const std::string& directory) {
     const KesConfigurationReport report = KesConfigurationCheck::check(directory);
-    for (const KesConfigurationFinding& finding : report.findings) {
-        std::cout << finding.file << ':';
-        if (finding.line > 0)
-            std::cout << finding.line << ':';
-        std::cout << ' ' << KesConfigurationFinding::severityName(finding.severity) << ": " << finding.message
-                  << '\n';
-    }
+    for (const KesConfigurationFinding& finding : report.findings)
+        std::cout << finding.text() << '\n';
     std::cout.flush();
     // Always a last line, so that a clean directory is not taken for a check that never ran.
     std::cerr << counted(report.count(Severity::Error), "error") << ", "
