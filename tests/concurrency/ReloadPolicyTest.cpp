@@ -18,14 +18,6 @@ using namespace reloaded;
 
 namespace {
 
-/// `text` as an editor saves it in UTF-16: every canonical number would lose its mask.
-std::string utf16(const std::string& text) {
-    std::string saved = "\xFF\xFE";
-    for (const char c : text)
-        saved += std::string{c, '\0'};
-    return saved;
-}
-
 struct Edit {
     const char* what;
     ConfigurationCopy::Files files; // written over VARIANT_B
