@@ -155,8 +155,9 @@ void ColdStart(benchmark::State& state) {
     warmUp(); // the benchmarks that follow expect warm caches
 }
 
-/// A reload of the shipped configuration while nothing converts: the three store files read, the
-/// previous configuration freed (its plans included, which the next conversions build again).
+/// A reload of the shipped configuration while nothing converts: every file it may need read (the
+/// store's and the plans'), the store built, the previous configuration freed (its plans included,
+/// which the next conversions build again, from the files read by the reload).
 void Reload(benchmark::State& state) {
     for (auto _ : state)
         KesNumberingRules::reload();

@@ -22,15 +22,29 @@ foreach(component IN ITEMS runtime development tool)
     DESTINATION ${CMAKE_INSTALL_DATAROOTDIR}/doc/${CPACK_DEBIAN_${upper}_PACKAGE_NAME}
     COMPONENT ${component} EXCLUDE_FROM_ALL)
 endforeach()
-install(FILES packaging/debian/runtime.lintian-overrides
-  DESTINATION ${CMAKE_INSTALL_DATAROOTDIR}/lintian/overrides RENAME ${CPACK_DEBIAN_RUNTIME_PACKAGE_NAME}
-  COMPONENT runtime EXCLUDE_FROM_ALL)
+# The library package's symbols file, from what the built library exports.
+set(NUMBERING_DEBIAN_SYMBOLS ${PROJECT_BINARY_DIR}/debian/symbols)
+add_custom_command(OUTPUT ${NUMBERING_DEBIAN_SYMBOLS}
+  COMMAND ${PROJECT_SOURCE_DIR}/packaging/debian/symbols.sh $<TARGET_FILE:Numbering> $<TARGET_SONAME_FILE_NAME:Numbering>
+          ${CPACK_DEBIAN_RUNTIME_PACKAGE_NAME} ${CPACK_DEBIAN_DEVELOPMENT_PACKAGE_NAME} ${PROJECT_VERSION}
+          ${NUMBERING_DEBIAN_SYMBOLS}
+  DEPENDS Numbering ${PROJECT_SOURCE_DIR}/packaging/debian/symbols.sh VERBATIM)
+add_custom_target(numbering_debian_symbols ALL DEPENDS ${NUMBERING_DEBIAN_SYMBOLS})
+foreach(component IN ITEMS runtime tool)
+  string(TOUPPER ${component} upper)
+  install(FILES packaging/debian/${component}.lintian-overrides
+    DESTINATION ${CMAKE_INSTALL_DATAROOTDIR}/lintian/overrides RENAME ${CPACK_DEBIAN_${upper}_PACKAGE_NAME}
+    COMPONENT ${component} EXCLUDE_FROM_ALL)
+endforeach()
 
 set(CPACK_GENERATOR DEB)
 set(CPACK_PACKAGE_NAME libnumbering)
 set(CPACK_PACKAGE_VENDOR "libNumbering developers")
 set(CPACK_PACKAGE_CONTACT "libNumbering developers <developers@libnumbering.org>")
 set(CPACK_PACKAGING_INSTALL_PREFIX /usr)
+# The install runs with the prefix /usr under DESTDIR, so that the install rules see /usr.
+set(CPACK_SET_DESTDIR ON)
+set(CPACK_INSTALL_PREFIX ${CPACK_PACKAGING_INSTALL_PREFIX})
 set(CPACK_STRIP_FILES ON)
 set(CPACK_COMPONENTS_ALL runtime development tool)
 set(CPACK_DEB_COMPONENT_INSTALL ON)
@@ -59,7 +73,8 @@ compact GSM form. Country behaviour comes from property files and from
 country numbering plans.")
 
 set(CPACK_DEBIAN_RUNTIME_PACKAGE_SECTION libs)
-set(CPACK_DEBIAN_RUNTIME_PACKAGE_CONTROL_EXTRA ${PROJECT_SOURCE_DIR}/packaging/debian/triggers)
+set(CPACK_DEBIAN_RUNTIME_PACKAGE_CONTROL_EXTRA ${PROJECT_SOURCE_DIR}/packaging/debian/triggers
+  ${NUMBERING_DEBIAN_SYMBOLS})
 set(CPACK_COMPONENT_RUNTIME_DESCRIPTION "telephone number conversions for private exchanges
 ${NUMBERING_DEBIAN_ABOUT}
 
@@ -82,5 +97,7 @@ ${NUMBERING_DEBIAN_ABOUT}
 This package holds the numbering command, which runs the conversions on
 numbers given as arguments or read from standard input, and the shipped
 default configuration in /usr/share/numbering.")
+
+set(CPACK_POST_BUILD_SCRIPTS ${PROJECT_SOURCE_DIR}/packaging/debian/multiarch.cmake)
 
 include(CPack)

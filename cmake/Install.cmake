@@ -6,9 +6,10 @@ include(CMakePackageConfigHelpers)
 
 set(NUMBERING_INSTALL_CMAKEDIR ${CMAKE_INSTALL_LIBDIR}/cmake/Numbering)
 
+# The include directory comes from the target's INSTALL_INTERFACE alone: an INCLUDES DESTINATION
+# here would list it a second time.
 install(TARGETS Numbering EXPORT NumberingTargets
-  LIBRARY DESTINATION ${CMAKE_INSTALL_LIBDIR} COMPONENT runtime NAMELINK_COMPONENT development
-  INCLUDES DESTINATION ${CMAKE_INSTALL_INCLUDEDIR})
+  LIBRARY DESTINATION ${CMAKE_INSTALL_LIBDIR} COMPONENT runtime NAMELINK_COMPONENT development)
 install(DIRECTORY include/numbering ${NUMBERING_GENERATED_INCLUDE_DIR}/numbering
   DESTINATION ${CMAKE_INSTALL_INCLUDEDIR} COMPONENT development)
 install(EXPORT NumberingTargets NAMESPACE Numbering:: DESTINATION ${NUMBERING_INSTALL_CMAKEDIR}
@@ -21,11 +22,21 @@ write_basic_package_version_file(${PROJECT_BINARY_DIR}/NumberingConfigVersion.cm
 install(FILES ${PROJECT_BINARY_DIR}/NumberingConfig.cmake ${PROJECT_BINARY_DIR}/NumberingConfigVersion.cmake
   DESTINATION ${NUMBERING_INSTALL_CMAKEDIR} COMPONENT development)
 
-# The pkg-config file finds the prefix from its own place: ${pcfiledir} up to the prefix.
+# The pkg-config file finds the prefix from its own place (${pcfiledir} up to the prefix), except
+# under /usr, where it names /usr: pkg-config then recognises the system directories and leaves
+# out their -I and -L. The prefix is known only at install time (cpack installs under /usr).
 file(RELATIVE_PATH NUMBERING_PC_TO_PREFIX ${CMAKE_INSTALL_FULL_LIBDIR}/pkgconfig ${CMAKE_INSTALL_PREFIX})
 string(REGEX REPLACE "/$" "" NUMBERING_PC_TO_PREFIX "${NUMBERING_PC_TO_PREFIX}")
+set(NUMBERING_PC_PREFIX "\${pcfiledir}/${NUMBERING_PC_TO_PREFIX}")
 configure_file(cmake/numbering.pc.in ${PROJECT_BINARY_DIR}/numbering.pc @ONLY)
-install(FILES ${PROJECT_BINARY_DIR}/numbering.pc DESTINATION ${CMAKE_INSTALL_LIBDIR}/pkgconfig
+set(NUMBERING_PC_PREFIX /usr)
+configure_file(cmake/numbering.pc.in ${PROJECT_BINARY_DIR}/usr/numbering.pc @ONLY)
+install(CODE "
+  set(numbering_pc \"${PROJECT_BINARY_DIR}/numbering.pc\")
+  if(CMAKE_INSTALL_PREFIX STREQUAL \"/usr\")
+    set(numbering_pc \"${PROJECT_BINARY_DIR}/usr/numbering.pc\")
+  endif()
+  file(INSTALL \${numbering_pc} DESTINATION \"\${CMAKE_INSTALL_PREFIX}/${CMAKE_INSTALL_LIBDIR}/pkgconfig\")"
   COMPONENT development)
 
 # The shipped configuration, with the sample of numbers that `numbering diff` converts by default.

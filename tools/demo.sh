@@ -9,6 +9,8 @@ bash tools/install-packages.sh cmake make g++ libpoco-dev scdoc
 cmake -S . -B build-tool -DCMAKE_BUILD_TYPE=Release -DNUMBERING_BUILD_TESTS=OFF >/dev/null
 cmake --build build-tool -j"$(nproc)" --target numbering >/dev/null
 numbering=./build-tool/tools/numbering/numbering
+# The shipped configuration, whatever the machine's library directory holds.
+export NUMBERING_CONFIG_DIR=$PWD/data/
 
 show() { printf '$ numbering'; printf ' %q' "$@"; printf '\n'; "$numbering" "$@"; echo; }
 

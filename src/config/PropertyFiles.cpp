@@ -71,40 +71,18 @@ std::string readPropertyFile(const std::string& path) {
     return text;
 }
 
-namespace {
-
-template <class Read>
-std::string readInstallationOrDefault(Read read, const std::string& installationFile,
-                                      const std::string& defaultFile, Logger* logger,
+std::string readInstallationOrDefault(const Generation& generation, const std::string& installationName,
+                                      const std::string& defaultName, Logger* logger,
                                       const std::string& textWhenUnopenable,
                                       const std::string& textWhenNotFound) {
     try {
-        return read(installationFile);
+        return readPropertyFile(generation, installationName);
     } catch (const Poco::OpenFileException&) {
         logger->info(textWhenUnopenable);
     } catch (const Poco::FileNotFoundException&) {
         logger->info(textWhenNotFound);
     }
-    return read(defaultFile);
-}
-
-} // namespace
-
-std::string readInstallationOrDefault(const std::string& installationFile, const std::string& defaultFile,
-                                      Logger* logger, const std::string& textWhenUnopenable,
-                                      const std::string& textWhenNotFound) {
-    const auto read = [](const std::string& path) { return readPropertyFile(path); };
-    return readInstallationOrDefault(read, installationFile, defaultFile, logger, textWhenUnopenable,
-                                     textWhenNotFound);
-}
-
-std::string readInstallationOrDefault(const Generation& generation, const std::string& installationName,
-                                      const std::string& defaultName, Logger* logger,
-                                      const std::string& textWhenUnopenable,
-                                      const std::string& textWhenNotFound) {
-    const auto read = [&generation](const std::string& name) { return readPropertyFile(generation, name); };
-    return readInstallationOrDefault(read, installationName, defaultName, logger, textWhenUnopenable,
-                                     textWhenNotFound);
+    return readPropertyFile(generation, defaultName);
 }
 
 std::unique_ptr<const FileSnapshot> readFiles(const std::string& directory,

@@ -30,14 +30,6 @@ struct FileSnapshot;
 /// A FIFO is never waited on.
 std::string readPropertyFile(const std::string& path);
 
-/// The content of `installationFile`; when it cannot be opened (Poco::OpenFileException) or does
-/// not exist (Poco::FileNotFoundException), logs the matching text at info level and reads
-/// `defaultFile` instead. The two files are never merged. A default file that cannot be read
-/// either throws.
-std::string readInstallationOrDefault(const std::string& installationFile, const std::string& defaultFile,
-                                      Logger* logger, const std::string& textWhenUnopenable,
-                                      const std::string& textWhenNotFound);
-
 /// The files `names` of `directory` as they are now, each read as readPropertyFile reads it (or
 /// why it could not be).
 std::unique_ptr<const FileSnapshot> readFiles(const std::string& directory,
@@ -52,7 +44,10 @@ std::string readPropertyFile(const FileSnapshot& files, const std::string& direc
 /// else as it is on disk. Throws as readPropertyFile.
 std::string readPropertyFile(const Generation& generation, const std::string& name);
 
-/// readInstallationOrDefault on the files `installationName` and `defaultName` of `generation`.
+/// The content of the file `installationName` of `generation`; when it cannot be opened
+/// (Poco::OpenFileException) or does not exist (Poco::FileNotFoundException), logs the matching text
+/// at info level and reads `defaultName` instead. The two files are never merged. A default file
+/// that cannot be read either throws.
 std::string readInstallationOrDefault(const Generation& generation, const std::string& installationName,
                                       const std::string& defaultName, Logger* logger,
                                       const std::string& textWhenUnopenable,

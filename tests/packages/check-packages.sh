@@ -1,6 +1,8 @@
 #!/usr/bin/env bash
 # Builds the Debian packages of the build tree (cpack -G DEB) into a scratch directory, checks
-# what each holds, and runs lintian on each: no error and no warning may remain.
+# what each holds, runs lintian on each (no tag may remain, informational and pedantic ones
+# included), and uses them unpacked into a scratch root as an installer does: numbering init, then
+# a conversion, and a program's flags from pkg-config.
 #   check-packages.sh <build directory> <source directory>
 set -euo pipefail
 build_dir=$1
@@ -30,7 +32,8 @@ holds() {
 holds libnumbering2 "\./usr/lib/$multiarch/libNumbering\.so\.2\..*" "\./usr/share/doc/libnumbering2/copyright"
 holds libnumbering-dev "\./usr/lib/$multiarch/libNumbering\.so" "\./usr/include/numbering/Version\.h" \
     "\./usr/lib/$multiarch/cmake/Numbering/NumberingConfig\.cmake" "\./usr/lib/$multiarch/pkgconfig/numbering\.pc"
-holds numbering "\./usr/bin/numbering" "\./usr/share/numbering/dialingrules_default\.properties"
+holds numbering "\./usr/bin/numbering" "\./usr/share/numbering/dialingrules_default\.properties" \
+    "\./usr/share/numbering/sample_numbers\.txt"
 
 # The manual page comes with the tool's documentation; until its source is in the tree, lintian's
 # complaint about it is expected.
@@ -46,8 +49,31 @@ for deb in "$work"/*.deb; do
         failed=1
     fi
     echo "lintian $package:"
-    if ! lintian --fail-on error,warning "${suppress[@]}" "$deb"; then
+    if ! lintian -I --pedantic --fail-on error,warning,info,pedantic "${suppress[@]}" "$deb"; then
         failed=1
     fi
 done
+
+root=$work/root
+for deb in "$work"/*.deb; do
+    dpkg-deb --extract "$deb" "$root"
+done
+unset NUMBERING_CONFIG_DIR
+"$root/usr/bin/numbering" init "$work/library" >/dev/null
+got=$(NUMBERING_CONFIG_DIR=$work/library "$root/usr/bin/numbering" -c FR dial "+49 (89) 123456")
+if [ "$got" != 0004989123456 ]; then
+    echo "installed tool after numbering init: got '$got'"
+    failed=1
+fi
+# diff of the shipped and the initialised configuration converts the installed sample: nothing differs.
+if ! "$root/usr/bin/numbering" diff "$root/usr/share/numbering" "$work/library" </dev/null >/dev/null 2>&1; then
+    echo "installed tool: diff of the shipped configuration and its copy does not find them alike"
+    failed=1
+fi
+# Under /usr the include and library directories are the system's: no -I, no -L.
+flags=$(PKG_CONFIG_PATH=$root/usr/lib/$multiarch/pkgconfig pkg-config --cflags --libs numbering | xargs)
+if [ "$flags" != "-lNumbering -lPocoUtil -lPocoFoundation" ]; then
+    echo "pkg-config flags of the package: '$flags'"
+    failed=1
+fi
 exit $failed

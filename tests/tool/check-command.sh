@@ -5,22 +5,13 @@
 set -u
 tool=$1
 data=$2
-failures=0
-work=$(mktemp -d)
-trap 'rm -rf "$work"' EXIT
+. "$(dirname "$0")/common.sh"
 
-fail() {
-    printf 'FAIL: %s\n  stdout: %s\n  stderr: %s\n' "$1" "$out" "$err"
-    failures=$((failures + 1))
-}
-
-# check EXPECTED_STATUS NAME ARGS...: runs the tool and checks its exit status; sets out and err.
+# check EXPECTED_STATUS NAME ARGS...: runs the tool and checks its exit status; sets out, err, status.
 check() {
     local expected=$1 name=$2
     shift 2
-    out=$("$tool" "$@" 2>"$work/err")
-    status=$?
-    err=$(cat "$work/err")
+    run "$@"
     [ "$status" = "$expected" ] || fail "$name (exit status $status, wanted $expected)"
 }
 
@@ -54,13 +45,12 @@ expect_line "errors" "$work/notes/dlr_cnp_mask.properties: error: no mask for +2
 more=$(sed -n 's/^.*dlr_cnp_mask.properties: error: and \([0-9]*\) more like it, not listed one by one$/\1/p' <<<"$out")
 [ -n "$more" ] || fail "errors: no line counting the other missing masks"
 [ "$err" = "$((${more:-0} + 3)) errors, 2 warnings, 2 notes in 13 files" ] || fail "errors: summary"
+run --json check --config-dir "$work/notes"
+[ "$(json alike | tr ';' '\n' | grep -v '^-$')" = "$more" ] && [[ "$err" == "$((${more:-0} + 3)) errors,"* ]] ||
+    fail "--json errors: the counted line's alike, the summary as text on standard error"
 
 check 2 "an empty directory" check --config-dir "$work/empty-directory"
 check 2 "a number after check" check 0123456789
 [[ "$err" == *"check takes no number"* ]] || fail "a number after check"
 
-if [ "$failures" -ne 0 ]; then
-    echo "$failures check(s) failed"
-    exit 1
-fi
-echo "all checks passed"
+finish

@@ -29,6 +29,16 @@ expect() {
     fi
 }
 
+# json KEY...: the JSON lines of $out read back, each as its members KEY... joined by '|' ('-' for
+# one missing), and ';' after each line.
+json() {
+    python3 -c '
+import json, sys
+for line in filter(str.strip, sys.stdin):
+    obj = json.loads(line)
+    print("|".join(str(obj.get(k, "-")) for k in sys.argv[1:]), end=";")' "$@" <<<"$out" 2>&1
+}
+
 # finish: the verdict and the exit status of the check.
 finish() {
     if [ "$failures" -ne 0 ]; then

@@ -2,13 +2,13 @@
 // standard input, and a message of the tool's own for every number that cannot be converted.
 #include "Conversions.h"
 
+#include "Installation.h"
+#include "JsonLine.h"
 #include "Output.h"
 
 #include "numbering/KesClid.h"
 #include "numbering/KesDialRulesItem.h"
-#include "numbering/KesNumberingConfig.h"
 #include "numbering/KesNumberingRules.h"
-#include "numbering/KesUnsupportedCountryException.h"
 
 #include <cctype>
 #include <cstdio>
@@ -33,68 +33,77 @@ bool isBlank(std::string_view text) {
     return text.find_first_not_of(BLANKS) == std::string_view::npos;
 }
 
-namespace {
-
-/// The installation the options describe; std::invalid_argument with a message for the user.
-std::unique_ptr<KesDialRulesItem> installationOf(const Options& options) {
-    const std::string& country = options.country;
-    const bool letters = country.size() == 2 && std::isalpha(static_cast<unsigned char>(country[0])) &&
-                         std::isalpha(static_cast<unsigned char>(country[1]));
-    const std::string twoLetters = "the installation's country is an ISO 3166 code of two letters";
-    if (!letters)
-        throw std::invalid_argument(twoLetters + ", such as FR or DE, not '" + country + "'");
-    std::string upper = country;
-    for (char& c : upper)
-        c = static_cast<char>(std::toupper(static_cast<unsigned char>(c)));
-    if (upper != country)
-        throw std::invalid_argument("country codes are written in capitals: -c " + upper);
+std::unique_ptr<KesDialRulesItem> makeInstallation(const Options& options, bool warnings) {
     try {
-        return std::make_unique<KesDialRulesItem>(country, options.extPrefix, options.localLength,
-                                                  options.areaCodes, options.exceptLength,
-                                                  options.exceptBegin);
-    } catch (const KesUnsupportedCountryException& e) { // not a std::exception
-        throw std::invalid_argument(std::string(e.what()) +
-                                    " (configuration: " + KesNumberingConfig::configDirectory() + ")");
-    }
-}
-
-} // namespace
-
-std::unique_ptr<KesDialRulesItem> makeInstallation(const Options& options) {
-    try {
-        return installationOf(options);
-    } catch (const std::invalid_argument& e) {
+        const Installation settings = readInstallation(options);
+        bool refused = false;
+        for (const KesConfigurationFinding& finding : settings.findings) {
+            const bool error = finding.severity == KesConfigurationFinding::Severity::Error;
+            if (error || warnings)
+                std::cerr << "numbering: " << finding.text() << "\n";
+            refused = refused || error;
+        }
+        if (!refused)
+            return settings.site.makeDialRulesItem();
+    } catch (const std::exception& e) { // a site file that cannot be opened
         std::cerr << "numbering: " << e.what() << "\n";
-        return nullptr;
     }
+    return nullptr;
 }
 
-std::string convert(const std::string& command, const Options& options, KesNumberingRules* rules,
-                    KesDialRulesItem* installation, const std::string& number) {
+Parts convert(const std::string& command, const Options& options, KesNumberingRules* rules,
+              KesDialRulesItem* installation, const std::string& number) {
+    auto one = [](std::string result) { return result.empty() ? Parts() : Parts{std::move(result)}; };
     if (command == "canonical")
-        return rules->makeCanonicalNumber(installation, number, options.pattern);
+        return one(rules->makeCanonicalNumber(installation, number, options.pattern));
     if (command == "dial")
-        return rules->makePhoneNumber(installation, number);
+        return one(rules->makePhoneNumber(installation, number));
     if (command == "gsm")
-        return rules->makeGSMCanonicalNumber(installation, number, false);
+        return one(rules->makeGSMCanonicalNumber(installation, number, false));
     if (command == "format")
-        return rules->formatCanonicalNumber(number, options.pattern);
+        return one(rules->formatCanonicalNumber(number, options.pattern));
     if (command == "decompose") {
         std::string country = rules->extractCountryNumberFromCanonicalNumber(number);
         if (country.empty())
-            return std::string();
-        return country + "\t" + rules->extractAreaCodeOrNatPrefixFromCanonicalNumber(number) + "\t" +
-               rules->extractExtensionFromCanonicalNumber(number);
+            return Parts();
+        return {country, rules->extractAreaCodeOrNatPrefixFromCanonicalNumber(number),
+                rules->extractExtensionFromCanonicalNumber(number)};
     }
     KesClid* clid = rules->makeClid(installation, number);
     if (clid == nullptr)
-        return std::string();
-    std::string presented = clid->getNumber() + "\t" + clid->getOrigin()->name;
+        return Parts();
+    Parts presented{clid->getNumber(), clid->getOrigin()->name};
     clid->release();
     return presented;
 }
 
 namespace {
+
+/// The result line: the parts separated by tabs, behind the input and a tab in batch mode.
+std::string textLine(const std::string* input, const Parts& parts) {
+    std::string text = input != nullptr ? *input + '\t' : std::string();
+    for (std::size_t i = 0; i < parts.size(); ++i)
+        text += (i == 0 ? "" : "\t") + parts[i];
+    return text;
+}
+
+/// The result as a JSON line: the parts named after what they are, and why there is none.
+std::string jsonLine(const std::string& command, const std::string& input, const Parts& parts,
+                     const std::string& error) {
+    JsonLine line;
+    line.add("command", command).add("input", input);
+    if (command == "decompose" && parts.size() == 3)
+        line.addJson(
+            "result",
+            JsonLine().add("country", parts[0]).add("area", parts[1]).add("subscriber", parts[2]).text());
+    else
+        line.add("result", parts.empty() ? std::string() : parts[0]);
+    if (command == "clid" && parts.size() == 2)
+        line.add("origin", parts[1]);
+    if (!error.empty())
+        line.add("error", error);
+    return line.text();
+}
 
 /// The number between quotes, its control characters shown as "\xNN" so that none reaches the terminal.
 std::string quoted(std::string_view number) {
@@ -142,31 +151,35 @@ int convertNumbers(const Options& options) {
     long lineNumber = 0;
     const bool batch = options.numbers.empty();
     auto run = [&](const std::string& number) {
-        std::string result;
+        Parts parts;
+        std::string error;
         if (!(batch && isBlank(number))) { // a blank line in a batch keeps its place, with no result
             convertingNumbers = true;
             try {
-                result = convert(options.command, options, rules, installation.get(), number);
+                parts = convert(options.command, options, rules, installation.get(), number);
             } catch (const std::exception&) {
                 // only an empty number gets this far: whyNotConverted says so
             }
             convertingNumbers = false;
-            if (result.empty()) {
+            if (parts.empty()) {
                 ++failures;
-                output.flush(); // the message follows the results before it
-                std::string where = batch ? "line " + std::to_string(lineNumber) + ": " : "";
-                std::cerr << "numbering: " << where << whyNotConverted(options, number) << "\n";
+                error = whyNotConverted(options, number);
+                if (!options.json) {
+                    output.flush(); // the message follows the results before it
+                    std::string where = batch ? "line " + std::to_string(lineNumber) + ": " : "";
+                    std::cerr << "numbering: " << where << error << "\n";
+                }
             }
         }
-        if (batch)
-            output.line({number, result});
-        else
-            output.line({result});
+        output.line({options.json ? jsonLine(options.command, number, parts, error)
+                                  : textLine(batch ? &number : nullptr, parts)});
     };
     if (batch) {
         std::ios::sync_with_stdio(false);
         for (std::string line; std::getline(std::cin, line);) {
             ++lineNumber;
+            if (!line.empty() && line.back() == '\r') // a line ended by CRLF
+                line.pop_back();
             run(line);
         }
     } else {

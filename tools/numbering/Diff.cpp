@@ -4,12 +4,12 @@
 #include "Diff.h"
 
 #include "Conversions.h"
+#include "JsonLine.h"
 #include "Output.h"
 
 #include "numbering/KesDialRulesItem.h"
 #include "numbering/KesNumberingRules.h"
 
-#include <algorithm>
 #include <array>
 #include <fstream>
 #include <iostream>
@@ -70,26 +70,28 @@ std::vector<std::string> sampleNumbers(const Options& options, const std::string
 
 /// Converts every number by every command under the configuration of `directory`, in that order,
 /// handing each result to `take`; false (said on standard error) when the installation cannot be
-/// made there.
+/// made there. The installation's warnings are said when `warnings`: once for both configurations.
 template <typename Take>
-bool convertSample(const std::string& directory, const Options& options,
+bool convertSample(const std::string& directory, const Options& options, bool warnings,
                    const std::vector<std::string>& numbers, Take take) {
     KesNumberingRules::reload(directory);
     KesNumberingRules* rules = KesNumberingRules::getInstance();
-    std::unique_ptr<KesDialRulesItem> installation = makeInstallation(options);
+    std::unique_ptr<KesDialRulesItem> installation = makeInstallation(options, warnings);
     if (!installation)
         return false;
     convertingNumbers = true;
     for (std::size_t number = 0; number < numbers.size(); ++number)
         for (std::size_t command = 0; command < COMMANDS.size(); ++command) {
-            std::string result;
+            Parts parts;
             try {
-                result = convert(COMMANDS[command], options, rules, installation.get(), numbers[number]);
+                parts = convert(COMMANDS[command], options, rules, installation.get(), numbers[number]);
             } catch (const std::exception&) {
                 // no result, as the conversion commands give none
             }
             // A caller identity is number and origin: one field of the line.
-            std::replace(result.begin(), result.end(), '\t', ' ');
+            std::string result = parts.empty() ? std::string() : std::move(parts[0]);
+            for (std::size_t part = 1; part < parts.size(); ++part)
+                result += ' ' + parts[part];
             take(number, command, result);
         }
     convertingNumbers = false;
@@ -107,7 +109,7 @@ int runDiff(const Options& options, const std::string& oldDirectory, const std::
         return 2;
     }
     Results before;
-    if (!convertSample(oldDirectory, options, numbers,
+    if (!convertSample(oldDirectory, options, true, numbers,
                        [&](std::size_t, std::size_t, const std::string& result) { before.add(result); }))
         return 2;
 
@@ -116,12 +118,20 @@ int runDiff(const Options& options, const std::string& oldDirectory, const std::
     long numbersDiffering = 0;
     std::size_t lastDiffering = numbers.size();
     const bool converted =
-        convertSample(newDirectory, options, numbers,
+        convertSample(newDirectory, options, false, numbers,
                       [&](std::size_t number, std::size_t command, const std::string& after) {
                           const std::string_view old = before[number * COMMANDS.size() + command];
                           if (old == after)
                               return;
-                          output.line({numbers[number], COMMANDS[command], old, after});
+                          if (options.json)
+                              output.line({JsonLine()
+                                               .add("input", numbers[number])
+                                               .add("command", COMMANDS[command])
+                                               .add("old", std::string(old))
+                                               .add("new", after)
+                                               .text()});
+                          else
+                              output.line({numbers[number], COMMANDS[command], old, after});
                           ++differing[command];
                           if (lastDiffering != number)
                               ++numbersDiffering;

@@ -1,11 +1,17 @@
 #include "Options.h"
 
+#include "numbering/KesSiteFile.h"
+
 #include <cctype>
 #include <cstdlib>
 #include <stdexcept>
 
+using numbering::KesSiteFile;
+
 const char* const USAGE =
     "usage: numbering [options] <command> [number ...]\n"
+    "       numbering [options] diff OLD_DIR NEW_DIR [number ...]\n"
+    "       numbering [--json] init [DIR]\n"
     "\n"
     "Converts telephone numbers for an installation of a private exchange. Numbers come from the\n"
     "arguments, or one per line from standard input (then each output line is the input, a tab and\n"
@@ -23,9 +29,13 @@ const char* const USAGE =
     "              each result that differs: input, command, old result, new result (tab-separated);\n"
     "              without numbers, the shipped sample (exit status 0 same, 1 different, 2 error)\n"
     "  check       configuration files -> what the library would make of them, as file:line: severity:\n"
-    "              message (exit status 0 clean or notes only, 1 warnings, 2 errors); takes no number\n"
+    "              message (exit status 0 clean or notes only, 1 warnings, 2 errors); takes no number;\n"
+    "              with --site, the site file's settings too\n"
+    "  init        copies the shipped configuration into DIR, else the library's directory, keeping\n"
+    "              every file already there\n"
     "\n"
-    "installation (defaults in brackets):\n"
+    "installation (defaults in brackets; options replace what the site file says):\n"
+    "      --site FILE           the installation's settings from a site file (see numbering(1))\n"
     "  -c, --country CC          ISO 3166 alpha-2 country of the installation [FR]\n"
     "  -x, --ext-prefix DIGITS   prefix that seizes an outside line [0]\n"
     "  -a, --area-codes LIST     the installation's own area codes, comma-separated []\n"
@@ -35,7 +45,8 @@ const char* const USAGE =
     "\n"
     "other options:\n"
     "  -p, --pattern MASK        display mask for canonical and format (letters C, A, a, x)\n"
-    "      --config-dir DIR      configuration directory [NUMBERING_CONFIG_DIR, else the shipped one]\n"
+    "      --config-dir DIR      configuration directory [the library's, else the shipped one]\n"
+    "      --json                one JSON object per line instead of text\n"
     "      --trace               write the library's debug lines to standard error\n"
     "  -h, --help                this text\n"
     "      --version             the versions of the tool and of the library it runs on\n";
@@ -63,24 +74,29 @@ Options parseOptions(int argc, char** argv) {
                 throw std::invalid_argument("option " + argument + " wants a value");
             return argv[++i];
         };
+        auto given = [&](const char* key) { options.given.insert(key); };
         if (argument == "-h" || argument == "--help")
             options.help = true;
         else if (argument == "--version")
             options.version = true;
         else if (argument == "--trace")
             options.trace = true;
+        else if (argument == "--json")
+            options.json = true;
+        else if (argument == "--site")
+            options.siteFile = value();
         else if (argument == "-c" || argument == "--country")
-            options.country = value();
+            options.country = value(), given(KesSiteFile::COUNTRY);
         else if (argument == "-x" || argument == "--ext-prefix")
-            options.extPrefix = value();
+            options.extPrefix = value(), given(KesSiteFile::EXT_PREFIX);
         else if (argument == "-a" || argument == "--area-codes")
-            options.areaCodes = value();
+            options.areaCodes = value(), given(KesSiteFile::AREA_CODES);
         else if (argument == "-l" || argument == "--local-length")
-            options.localLength = toLength(argument, value());
+            options.localLength = toLength(argument, value()), given(KesSiteFile::LOCAL_LENGTH);
         else if (argument == "--except-length")
-            options.exceptLength = toLength(argument, value());
+            options.exceptLength = toLength(argument, value()), given(KesSiteFile::EXCEPT_LENGTH);
         else if (argument == "--except-begin")
-            options.exceptBegin = value();
+            options.exceptBegin = value(), given(KesSiteFile::EXCEPT_BEGIN);
         else if (argument == "-p" || argument == "--pattern")
             options.pattern = value();
         else if (argument == "--config-dir")
@@ -100,8 +116,8 @@ Options parseOptions(int argc, char** argv) {
     if (positional.empty())
         throw std::invalid_argument("no command given");
     options.command = positional.front();
-    static const char* const commands[] = {"canonical", "dial",      "clid",  "gsm",
-                                           "format",    "decompose", "check", "diff"};
+    static const char* const commands[] = {"canonical", "dial",  "clid", "gsm", "format",
+                                           "decompose", "check", "init", "diff"};
     bool known = false;
     for (const char* command : commands)
         known = known || options.command == command;
@@ -117,5 +133,7 @@ Options parseOptions(int argc, char** argv) {
     options.numbers.assign(numbers, positional.end());
     if (options.command == "check" && !options.numbers.empty())
         throw std::invalid_argument("check takes no number");
+    if (options.command == "init" && options.numbers.size() > 1)
+        throw std::invalid_argument("init takes one directory at most");
     return options;
 }

@@ -1,6 +1,7 @@
 #ifndef NUMBERING_TOOLS_OPTIONS_H
 #define NUMBERING_TOOLS_OPTIONS_H
 
+#include <set>
 #include <string>
 #include <vector>
 
@@ -8,6 +9,9 @@
 struct Options {
     std::string command;
     std::vector<std::string> numbers; // empty: read them from standard input, one per line
+    // The installation: the defaults below, or the site file; options given replace either.
+    std::string siteFile;
+    std::set<std::string> given; // the site file keys set by options
     std::string country = "FR";
     std::string extPrefix = "0";
     std::string areaCodes;
@@ -15,9 +19,10 @@ struct Options {
     int exceptLength = 0;
     std::string exceptBegin;
     std::string pattern;
-    std::string configDir; // empty: NUMBERING_CONFIG_DIR if set, else the shipped configuration
+    std::string configDir; // empty: the library's directory if it exists, else the shipped configuration
     std::string oldDir;    // the two configurations that diff compares
     std::string newDir;
+    bool json = false;
     bool trace = false;
     bool help = false;
     bool version = false;
