@@ -22,7 +22,7 @@ KesCNPManager& planCacheOf(Generation& generation) {
     if (Logger::m_Traces)
         KesCNPManager::logger->debug("getInstance()");
     return generation.plans.getOrMake([&generation] { return new KesCNPManager(generation); },
-                                      generation.isCurrent());
+                                      [&generation] { return generation.isCurrent(); });
 }
 
 KesCNPManager* KesCNPManager::getInstance() {
@@ -31,10 +31,7 @@ KesCNPManager* KesCNPManager::getInstance() {
 }
 
 void KesCNPManager::resetInstance() {
-    std::lock_guard<std::recursive_mutex> lock(lifecycleMutex());
-    if (Generation* current = Generation::currentIfAny())
-        current->plans.drop();
-    Generation::forgetFiles();
+    Generation::reset(&Generation::plans);
 }
 
 KesCNPManager::KesCNPManager(Generation& owner)
@@ -43,10 +40,7 @@ KesCNPManager::KesCNPManager(Generation& owner)
         logger->debug("KesCNPManager()");
 }
 
-KesCNPManager::~KesCNPManager() {
-    if (instance == this)
-        instance = nullptr;
-}
+KesCNPManager::~KesCNPManager() = default;
 
 KesCNP* KesCNPManager::getCNP(std::string country) {
     if (Logger::m_Traces)

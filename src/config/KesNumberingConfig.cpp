@@ -62,7 +62,7 @@ bool loadEachKey(const Generation& generation, Logger* logger, const std::string
 
 KesNumberingConfig& storeOf(Generation& generation) {
     return generation.store.getOrMake([&generation] { return new KesNumberingConfig(generation); },
-                                      generation.isCurrent());
+                                      [&generation] { return generation.isCurrent(); });
 }
 
 std::vector<std::string> storeFileNames() {
@@ -93,10 +93,7 @@ KesNumberingConfig* KesNumberingConfig::getInstance() {
 }
 
 void KesNumberingConfig::resetInstance() {
-    std::lock_guard<std::recursive_mutex> lock(lifecycleMutex());
-    if (Generation* current = Generation::currentIfAny())
-        current->store.drop();
-    Generation::forgetFiles();
+    Generation::reset(&Generation::store);
 }
 
 KesNumberingConfig::KesNumberingConfig(Generation& owner)

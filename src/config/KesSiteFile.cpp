@@ -66,13 +66,15 @@ KesSiteFile KesSiteFile::read(const std::string& path) {
         site.readingFindings.push_back({severity, path, key, site.lines[key], message});
     };
     const char* const known[] = {COUNTRY, LOCAL_LENGTH, EXT_PREFIX, AREA_CODES, EXCEPT_LENGTH, EXCEPT_BEGIN};
-    for (const auto& [key, line] : site.lines)
+    for (const auto& keyLine : site.lines) {
+        const std::string& key = keyLine.first; // a structured binding cannot be captured in C++17
         if (std::find_if(std::begin(known), std::end(known), [&](const char* k) { return key == k; }) ==
             std::end(known))
             finding(key, Severity::Warning,
                     "unknown key '" + key +
                         "', ignored: the keys are country, ext_prefix, area_codes, local_length, "
                         "except_length and except_begin");
+    }
     site.country = properties->getString(COUNTRY, "");
     site.extPrefix = properties->getString(EXT_PREFIX, "");
     site.areaCodes = properties->getString(AREA_CODES, "");

@@ -17,7 +17,7 @@ KesDialableManager& strategyCacheOf(Generation& generation) {
     if (Logger::m_Traces)
         KesDialableManager::logger->debug("getInstance()");
     return generation.strategies.getOrMake([&generation] { return new KesDialableManager(generation); },
-                                           generation.isCurrent());
+                                           [&generation] { return generation.isCurrent(); });
 }
 
 KesDialableManager* KesDialableManager::getInstance() {
@@ -26,10 +26,7 @@ KesDialableManager* KesDialableManager::getInstance() {
 }
 
 void KesDialableManager::resetInstance() {
-    std::lock_guard<std::recursive_mutex> lock(lifecycleMutex());
-    if (Generation* current = Generation::currentIfAny())
-        current->strategies.drop();
-    Generation::forgetFiles();
+    Generation::reset(&Generation::strategies);
 }
 
 KesDialableManager::KesDialableManager(Generation& owner)
@@ -38,10 +35,7 @@ KesDialableManager::KesDialableManager(Generation& owner)
         logger->debug("KesDialableManager()");
 }
 
-KesDialableManager::~KesDialableManager() {
-    if (instance == this)
-        instance = nullptr;
-}
+KesDialableManager::~KesDialableManager() = default;
 
 KesDialable* KesDialableManager::getDialable(std::string countryNumber) {
     if (Logger::m_Traces)

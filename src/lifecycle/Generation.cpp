@@ -166,12 +166,6 @@ void Generation::reload(const std::string* newDirectory, void (*prepare)(Generat
     }
 }
 
-void Generation::forgetFiles() {
-    std::lock_guard<std::recursive_mutex> lock(lifecycleMutex());
-    if (Generation* current = currentGeneration.load(std::memory_order_acquire))
-        current->snapshot.reset();
-}
-
 Singleton<KesNumberingRules>& Generation::facade() {
     static Singleton<KesNumberingRules>* facade = new Singleton<KesNumberingRules>; // never destroyed
     return *facade;

@@ -53,9 +53,10 @@ public:
     /// The object, or null when it is not made.
     T* get() const { return object.load(std::memory_order_acquire); }
 
-    /// The object, made by `make()` under the lifecycle mutex when there is none. `shown` says
-    /// whether the class's `instance` (and the places added by showAlsoAt) show it.
-    template <class Make> T& getOrMake(Make make, bool shown) {
+    /// The object, made by `make()` under the lifecycle mutex when there is none. `isShown()`, asked
+    /// under the same mutex (a reload may be switching generations), says whether the class's
+    /// `instance` and the places of alsoShownAt() show it.
+    template <class Make, class IsShown> T& getOrMake(Make make, IsShown isShown) {
         if (T* made = get())
             return *made;
         std::lock_guard<std::recursive_mutex> lock(lifecycleMutex());
@@ -69,7 +70,7 @@ public:
                 *place = current;
         };
         object.store(made, std::memory_order_release);
-        show(shown);
+        show(isShown());
         return *made;
     }
 
@@ -136,8 +137,15 @@ public:
     /// serialised; the last one wins. Throws std::logic_error inside a conversion, which would
     /// wait for itself.
     static void reload(const std::string* directory, void (*prepare)(Generation&));
-    /// After a reset (only when nothing converts): what the current generation makes again reads the disk.
-    static void forgetFiles();
+    /// A singleton's resetInstance(): destroys `which` of the current generation alone (only when
+    /// nothing converts); what the generation makes again afterwards reads the disk.
+    template <class T> static void reset(Singleton<T> Generation::*which) {
+        std::lock_guard<std::recursive_mutex> lock(lifecycleMutex());
+        if (Generation* current = currentIfAny()) {
+            (current->*which).drop();
+            current->snapshot.reset();
+        }
+    }
 
     /// The directory the next generation reads: the last one chosen by a reload, else
     /// NUMBERING_CONFIG_DIR as it was when the library was loaded, else "/current/tele_mnt/lib_numbering/".

@@ -54,7 +54,7 @@ void readCheckedAtReload(Generation& fresh) {
 } // namespace
 
 KesNumberingRules* KesNumberingRules::getInstance() {
-    return &Generation::facade().getOrMake([] { return new KesNumberingRules(); }, true);
+    return &Generation::facade().getOrMake([] { return new KesNumberingRules(); }, [] { return true; });
 }
 
 void KesNumberingRules::resetInstance() {
