@@ -32,6 +32,7 @@ numbering_sources(rules
   CanonicalNumber.cpp
   DialableNumber.cpp
   GsmCanonicalNumber.cpp
+  KesConfigurationWatcher.cpp
   KesNumberingRules.cpp
   PhoneNumber.cpp)
 
@@ -46,13 +47,13 @@ numbering_sources(dialable
   KesDialable_7.cpp)
 
 numbering_sources(cnp
+  ConfigurationFiles.cpp
   FixedLengthPlan.cpp
   KesAreaCodePlan.cpp
   KesAreaCodeTree.cpp
+  KesCharsTree.cpp
+  KesCharsTreeElement.cpp
   KesCNP.cpp
-  KesCNPFactory.cpp
-  KesCNPManager.cpp
-  KesCNPRegistry.cpp
   KesCNP_1.cpp
   KesCNP_31.cpp
   KesCNP_32.cpp
@@ -68,8 +69,9 @@ numbering_sources(cnp
   KesCNP_61.cpp
   KesCNP_64.cpp
   KesCNP_7.cpp
-  KesCharsTree.cpp
-  KesCharsTreeElement.cpp
+  KesCNPFactory.cpp
+  KesCNPManager.cpp
+  KesCNPRegistry.cpp
   OnePassConversion.cpp
   PlanSelfTest.cpp
   TwoPassConversion.cpp)
@@ -79,6 +81,7 @@ numbering_sources(check
   CheckedFile.cpp
   DialingRulesCheck.cpp
   KesConfigurationCheck.cpp
+  KesConfigurationRejected.cpp
   MasksAndSwitchesCheck.cpp
   PropertyReading.cpp
   RepeatedFindings.cpp

@@ -27,6 +27,8 @@ struct NUMBERING_API KesConfigurationFinding {
 
     /// "note", "warning" or "error".
     static const char* severityName(Severity severity);
+    /// The finding on one line: "FILE:LINE: SEVERITY: MESSAGE", without "LINE:" when it is 0.
+    std::string text() const;
 };
 
 /// One configuration file as the library reads it: the installation file, or its default when the
@@ -52,21 +54,20 @@ struct NUMBERING_API KesConfigurationReport {
 /// reader and rules, and says what it would do with them: rows and keys it skips, lists cut short,
 /// area codes it never finds, countries whose numbers would lose their calling code. Changes no
 /// file and builds nothing the library's conversions use, so a host may run it on any thread while
-/// conversions go on, for instance to refuse a directory before KesNumberingRules::reload(directory).
+/// conversions go on. To refuse a directory with errors, a host reloads with
+/// KesNumberingRules::reload(directory, ReloadPolicy::RefuseErrors), which checks the very files it
+/// then activates: a check followed by a plain reload would activate an edit made in between.
 ///
 /// @code
 /// numbering::KesConfigurationReport report = numbering::KesConfigurationCheck::check("/etc/numbering/");
-/// for (const numbering::KesConfigurationFinding& f : report.findings) {
-///     const char* severity = numbering::KesConfigurationFinding::severityName(f.severity);
-///     std::cerr << f.file << ":" << f.line << ": " << severity << ": " << f.message << "\n";
-/// }
-/// if (report.status() < 2)
-///     numbering::KesNumberingRules::reload("/etc/numbering/");
+/// for (const numbering::KesConfigurationFinding& f : report.findings)
+///     std::cerr << f.text() << "\n"; // "/etc/numbering/dialingrules.properties:12: warning: ..."
 /// @endcode
 class NUMBERING_API KesConfigurationCheck {
 public:
-    /// Checks `directory` (with or without a final "/"). Throws nothing for missing or unreadable
-    /// files: they are findings.
+    /// Checks `directory` (with or without a final "/"): reads every file the library may read
+    /// there at once, then checks what it read. Throws nothing for missing or unreadable files:
+    /// they are findings.
     static KesConfigurationReport check(const std::string& directory);
     /// Checks the directory of the configuration in use (KesNumberingConfig::configDirectory()).
     static KesConfigurationReport check();

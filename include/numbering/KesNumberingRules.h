@@ -15,6 +15,15 @@ class KesClid;
 class KesDialRulesItem;
 class KesNumberingConfig;
 
+/// What a reload does with files in which the configuration check finds an error.
+enum class ReloadPolicy {
+    /// Activates them as they are, as reload() always has.
+    Plain,
+    /// Keeps the running configuration and throws KesConfigurationRejected. Warnings and notes never
+    /// refuse a directory.
+    RefuseErrors
+};
+
 /// The library's front door. Converts what a user typed, or what a trunk delivered, into the
 /// canonical international form ("+33 (1) 23456789"), lays canonical numbers out with the
 /// country masks, splits them, builds caller line identities and GSM forms, and turns canonical
@@ -67,6 +76,22 @@ public:
     /// (an empty one goes back to the directory of the library's start). Called before the first
     /// getInstance(), it chooses where the first load reads.
     static void reload(const std::string& configDirectory);
+    /// reload(configDirectory) under `policy`. With ReloadPolicy::RefuseErrors, the files are read
+    /// once, checked as KesConfigurationCheck::check() checks a directory, and those same bytes are
+    /// activated only when the check finds no error: an edit made in between cannot slip past it.
+    /// Otherwise it throws KesConfigurationRejected and changes nothing, neither the configuration
+    /// nor the configuration directory. The call a host makes when the installer changed the files.
+    ///
+    /// @code
+    /// try {
+    ///     numbering::KesNumberingRules::reload("/etc/numbering/", numbering::ReloadPolicy::RefuseErrors);
+    /// } catch (const numbering::KesConfigurationRejected& refused) {
+    ///     report(refused.what()); // the calls go on with the configuration of before
+    /// }
+    /// @endcode
+    static void reload(const std::string& configDirectory, ReloadPolicy policy);
+    /// reload(directory, policy) from the configuration directory in use.
+    static void reload(ReloadPolicy policy);
 
     /// A facade of its own, for a host subclass; it shares the process-wide configuration.
     KesNumberingRules();

@@ -2,7 +2,9 @@
 
 #include "FileChecks.h"
 #include "RepeatedFindings.h"
+#include "SnapshotCheck.h"
 #include "TextEncoding.h"
+#include "cnp/ConfigurationFiles.h"
 #include "numbering/KesCNPRegistry.h"
 #include "numbering/KesNumberingConfig.h"
 
@@ -12,7 +14,6 @@
 #include <functional>
 #include <map>
 #include <set>
-#include <unistd.h>
 
 namespace numbering {
 
@@ -25,6 +26,11 @@ const char* KesConfigurationFinding::severityName(Severity severity) {
     default:
         return "error";
     }
+}
+
+std::string KesConfigurationFinding::text() const {
+    return file + ':' + (line > 0 ? std::to_string(line) + ':' : std::string()) + ' ' +
+           severityName(severity) + ": " + message;
 }
 
 int KesConfigurationReport::status() const {
@@ -64,10 +70,10 @@ struct Opening {
     std::string whyNot;
 };
 
-Opening open(const std::string& path) {
+Opening openFile(const FileSnapshot& files, const std::string& directory, const std::string& name) {
     Opening opening;
     try {
-        opening.text = openPropertyFile(path);
+        opening.text = openPropertyFile(files, directory, name);
     } catch (const Poco::FileNotFoundException&) {
         opening.absent = true;
         opening.whyNot = "it does not exist";
@@ -81,10 +87,8 @@ Opening open(const std::string& path) {
 
 class DirectoryCheck {
 public:
-    explicit DirectoryCheck(std::string path) : directory(std::move(path)) {
-        if (directory.empty() || directory.back() != '/')
-            directory += '/';
-    }
+    DirectoryCheck(std::string path, const FileSnapshot& snapshot)
+        : directory(std::move(path)), files(snapshot) {}
 
     KesConfigurationReport run() {
         DialingRules rules;
@@ -127,7 +131,7 @@ public:
         if (rules.usesCallingCode("57")) {
             // The Colombian dialing strategy reads the installation file only, never a default.
             std::string unread;
-            if (::access((directory + "tz310cnp_57_default.properties").c_str(), F_OK) == 0)
+            if (!open("tz310cnp_57_default.properties").absent)
                 unread = " (it never reads tz310cnp_57_default.properties)";
             checkFile(
                 {"tz310cnp_57.properties", "", Severity::Warning,
@@ -151,7 +155,7 @@ private:
         const std::string installation = directory + role.name;
         const std::string fallback = role.defaultName.empty() ? std::string() : directory + role.defaultName;
         report.files.push_back({installation, fallback, std::string()});
-        Opening opened = open(installation);
+        Opening opened = open(role.name);
         std::string inUse = installation;
         if (!opened.text) {
             if (fallback.empty()) {
@@ -164,7 +168,7 @@ private:
                 addFinding(Severity::Error, installation,
                            "cannot be opened (" + opened.whyNot + "): the library reads " + role.defaultName +
                                " instead");
-            Opening defaultOpened = open(fallback);
+            Opening defaultOpened = open(role.defaultName);
             if (!defaultOpened.text) {
                 addFinding(
                     role.severityWhenNone, fallback,
@@ -193,7 +197,7 @@ private:
 
     void compareWithDefault(const FileRole& role, CheckedFile& file, const std::vector<std::string>& loaded,
                             const Check& load) {
-        Opening defaults = open(directory + role.defaultName);
+        Opening defaults = open(role.defaultName);
         if (!defaults.text)
             return;
         file.report(Severity::Note, std::string(),
@@ -212,6 +216,8 @@ private:
                             role.defaultName + ", which the library does not read: " + listed(lacking));
     }
 
+    Opening open(const std::string& name) const { return openFile(files, directory, name); }
+
     void addFinding(Severity severity, const std::string& path, const std::string& message) {
         report.findings.push_back({severity, path, std::string(), 0, message});
     }
@@ -229,15 +235,23 @@ private:
     }
 
     std::string directory;
+    const FileSnapshot& files;
     KesConfigurationReport report;
 };
 
 } // namespace
 
+KesConfigurationReport checkFiles(const std::string& directory, const FileSnapshot& files) {
+    return DirectoryCheck(directory, files).run();
+}
+
 } // namespace configcheck
 
 KesConfigurationReport KesConfigurationCheck::check(const std::string& directory) {
-    return configcheck::DirectoryCheck(directory).run();
+    std::string path = directory;
+    if (path.empty() || path.back() != '/')
+        path += '/';
+    return configcheck::checkFiles(path, *readConfigurationFiles(path));
 }
 
 KesConfigurationReport KesConfigurationCheck::check() {

@@ -5,9 +5,10 @@
 namespace numbering {
 namespace configcheck {
 
-PropertyText openPropertyFile(const std::string& path) {
+PropertyText openPropertyFile(const FileSnapshot& files, const std::string& directory,
+                              const std::string& name) {
     PropertyText file;
-    file.text = readPropertyFile(path);
+    file.text = readPropertyFile(files, directory, name);
     file.properties = parseProperties(file.text);
     return file;
 }

@@ -14,6 +14,9 @@
 #include <string_view>
 
 namespace numbering {
+
+struct FileSnapshot;
+
 namespace configcheck {
 
 /// A property file as the library reads it, with its text (which only serves to find lines).
@@ -22,10 +25,12 @@ struct PropertyText {
     std::string text;
 };
 
-/// Opens `path` with the library's own opening of a property file: Poco::FileNotFoundException when
-/// it does not exist, Poco::OpenFileException (whose message says why) when it cannot be read. A
-/// directory, a FIFO or a device cannot be opened: the check never waits for a writer.
-PropertyText openPropertyFile(const std::string& path);
+/// Opens the file `name` of `directory` as `files` holds it, with the library's own opening of a
+/// property file: Poco::FileNotFoundException when it did not exist, Poco::OpenFileException (whose
+/// message says why) when it could not be read. A directory, a FIFO or a device cannot be opened:
+/// the check never waits for a writer.
+PropertyText openPropertyFile(const FileSnapshot& files, const std::string& directory,
+                              const std::string& name);
 
 /// `file` read as the loaders read a numbered list of keys `prefix` + "%04d".
 Poco::AutoPtr<NumberedProperties> readNumberedList(const PropertyText& file, const std::string& prefix);

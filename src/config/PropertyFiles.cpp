@@ -101,13 +101,11 @@ std::unique_ptr<const FileSnapshot> readFiles(const std::string& directory,
     return snapshot;
 }
 
-std::string readPropertyFile(const Generation& generation, const std::string& name) {
-    const std::string path = generation.directory + name;
-    const FileSnapshot* snapshot = generation.files();
-    if (snapshot == nullptr)
-        return readPropertyFile(path);
-    const auto taken = snapshot->files.find(name);
-    if (taken == snapshot->files.end()) // a file no reload expected
+std::string readPropertyFile(const FileSnapshot& files, const std::string& directory,
+                             const std::string& name) {
+    const std::string path = directory + name;
+    const auto taken = files.files.find(name);
+    if (taken == files.files.end()) // a file no reload expected
         return readPropertyFile(path);
     const FileSnapshot::File& file = taken->second;
     if (file.outcome == FileSnapshot::Outcome::NotFound)
@@ -115,6 +113,13 @@ std::string readPropertyFile(const Generation& generation, const std::string& na
     if (file.outcome == FileSnapshot::Outcome::Unopenable)
         throw Poco::OpenFileException(file.text);
     return file.text;
+}
+
+std::string readPropertyFile(const Generation& generation, const std::string& name) {
+    const FileSnapshot* snapshot = generation.files();
+    if (snapshot == nullptr)
+        return readPropertyFile(generation.directory + name);
+    return readPropertyFile(*snapshot, generation.directory, name);
 }
 
 Poco::AutoPtr<Poco::Util::PropertyFileConfiguration> parseProperties(std::string_view text) {

@@ -35,6 +35,11 @@ std::string readPropertyFile(const std::string& path);
 std::unique_ptr<const FileSnapshot> readFiles(const std::string& directory,
                                               const std::vector<std::string>& names);
 
+/// The content of the file `name` of `directory` as `files` holds it, else (a file it does not
+/// hold) as it is on disk. Throws as readPropertyFile.
+std::string readPropertyFile(const FileSnapshot& files, const std::string& directory,
+                             const std::string& name);
+
 /// The content of the file `name` of `generation`: as the reload that made the generation read it,
 /// else as it is on disk. Throws as readPropertyFile.
 std::string readPropertyFile(const Generation& generation, const std::string& name);

@@ -143,15 +143,17 @@ void Generation::reload(const std::string* newDirectory, void (*prepare)(Generat
     Generation* old;
     {
         std::lock_guard<std::recursive_mutex> lock(lifecycleMutex());
+        std::string chosen = lastChosenDirectory();
         if (newDirectory != nullptr)
-            lastChosenDirectory() = newDirectory->empty() ? std::string() : withSlash(*newDirectory);
-        Generation* fresh = new Generation(chosenDirectory());
+            chosen = newDirectory->empty() ? std::string() : withSlash(*newDirectory);
+        Generation* fresh = new Generation(chosen.empty() ? startDirectory() : chosen);
         try {
             prepare(*fresh);
         } catch (...) {
-            delete fresh;
+            delete fresh; // a refused directory is not chosen: the running configuration stays whole
             throw;
         }
+        lastChosenDirectory() = std::move(chosen);
         old = currentGeneration.exchange(fresh, std::memory_order_seq_cst);
         if (old != nullptr)
             old->show(false);

@@ -132,7 +132,8 @@ public:
     static Generation* currentIfAny();
     /// Makes a generation of `directory` (the directory chosen last when null), makes it current
     /// and calls `prepare` on it first (under the lifecycle mutex, before it is current), then
-    /// frees the one it replaces once no conversion pins it. Reloads from several threads are
+    /// frees the one it replaces once no conversion pins it. When `prepare` throws, nothing changes:
+    /// neither the current generation nor the chosen directory. Reloads from several threads are
     /// serialised; the last one wins. Throws std::logic_error inside a conversion, which would
     /// wait for itself.
     static void reload(const std::string* directory, void (*prepare)(Generation&));

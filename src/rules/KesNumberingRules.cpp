@@ -1,10 +1,11 @@
 #include "numbering/KesNumberingRules.h"
 
-#include "cnp/PlanCache.h"
-#include "config/PropertyFiles.h"
+#include "check/SnapshotCheck.h"
+#include "cnp/ConfigurationFiles.h"
 #include "config/Store.h"
 #include "lifecycle/Conversion.h"
 #include "numbering/KesCNPManager.h"
+#include "numbering/KesConfigurationRejected.h"
 #include "numbering/KesDialableManager.h"
 #include "numbering/KesNumberingConfig.h"
 #include "numbering/Logger.h"
@@ -36,10 +37,17 @@ namespace {
 /// A reloaded generation reads every file it may need now, and its store at once: plans and
 /// strategies are still made on first use, from the files as they were at the reload.
 void readAtReload(Generation& fresh) {
-    std::vector<std::string> names = storeFileNames();
-    for (std::string& name : planFileNames())
-        names.push_back(std::move(name));
-    fresh.takeFiles(readFiles(fresh.directory, names));
+    fresh.takeFiles(readConfigurationFiles(fresh.directory));
+    storeOf(fresh);
+}
+
+/// readAtReload, but the files read are checked first, and refused with an error.
+void readCheckedAtReload(Generation& fresh) {
+    std::unique_ptr<const FileSnapshot> files = readConfigurationFiles(fresh.directory);
+    KesConfigurationReport report = configcheck::checkFiles(fresh.directory, *files);
+    if (report.status() == static_cast<int>(KesConfigurationFinding::Severity::Error))
+        throw KesConfigurationRejected(fresh.directory, std::move(report));
+    fresh.takeFiles(std::move(files));
     storeOf(fresh);
 }
 
@@ -68,6 +76,15 @@ void KesNumberingRules::reload() {
 
 void KesNumberingRules::reload(const std::string& configDirectory) {
     Generation::reload(&configDirectory, readAtReload);
+}
+
+void KesNumberingRules::reload(const std::string& configDirectory, ReloadPolicy policy) {
+    Generation::reload(&configDirectory,
+                       policy == ReloadPolicy::RefuseErrors ? readCheckedAtReload : readAtReload);
+}
+
+void KesNumberingRules::reload(ReloadPolicy policy) {
+    Generation::reload(nullptr, policy == ReloadPolicy::RefuseErrors ? readCheckedAtReload : readAtReload);
 }
 
 KesNumberingRules::KesNumberingRules() {

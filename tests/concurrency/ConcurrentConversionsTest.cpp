@@ -2,6 +2,7 @@
 // on, on the shipped world (data/). Built again under ThreadSanitizer and AddressSanitizer by the
 // test command: besides the results checked here, the sanitizers see every race and leak.
 #include "ExampleNumbers.h"
+#include "ReloadedWorld.h"
 
 #include "numbering/KesAreaCodeTree.h"
 #include "numbering/KesCNP.h"
@@ -21,17 +22,13 @@
 #include <algorithm>
 #include <atomic>
 #include <chrono>
-#include <filesystem>
-#include <fstream>
 #include <mutex>
 #include <random>
 #include <string>
 #include <thread>
-#include <unistd.h>
 #include <vector>
 
 using namespace numbering;
-namespace fs = std::filesystem;
 
 namespace {
 
@@ -119,80 +116,7 @@ TEST(ConcurrentConversions, ColdStartGivesEveryThreadTheSingleThreadedResults) {
 
 namespace {
 
-/// A copy of the shipped configuration in a directory of its own, with some files replaced.
-class ConfigurationCopy {
-public:
-    using Files = std::vector<std::pair<std::string, std::string>>;
-
-    ConfigurationCopy(const std::string& name, const Files& files)
-        : path(fs::temp_directory_path() /
-               ("numbering-concurrency-" + std::to_string(getpid()) + "-" + name)) {
-        fs::create_directories(path);
-        for (const fs::directory_entry& entry : fs::directory_iterator(NUMBERING_SHIPPED_DATA))
-            fs::copy_file(entry.path(), path / entry.path().filename(), fs::copy_options::overwrite_existing);
-        write(files);
-    }
-    ~ConfigurationCopy() { fs::remove_all(path); }
-    std::string directory() const { return path.string() + "/"; }
-    /// Replaces the content of `files`.
-    void write(const Files& files) const {
-        for (const auto& file : files)
-            std::ofstream(path / file.first) << file.second;
-    }
-
-private:
-    fs::path path;
-};
-
-/// Numbers whose every form differs between the two configurations below: the German area codes
-/// (plan file), the masks (store) and the French international prefix (dialing rules).
-struct Conversion {
-    const char* country;
-    const char* number;
-};
-const Conversion RELOADED[] = {
-    {"DE", "089123456"},       {"DE", "+49 891 23456"},     {"FR", "01 23 45 67 89"},
-    {"FR", "+49 (89) 123456"}, {"GB", "+33 1 23 45 67 89"}, {"US", "+49 891 234567"},
-};
-
-/// The canonical, GSM and dialled forms of one number: three conversions, each on one configuration.
-std::vector<std::string> convertOnce(const Conversion& c) {
-    KesNumberingRules* rules = KesNumberingRules::getInstance();
-    KesDialRulesItem site(c.country, "0", 4, "", 0, "");
-    return {rules->makeCanonicalNumber(&site, c.number, ""),
-            rules->makeGSMCanonicalNumber(&site, c.number, false), rules->makePhoneNumber(&site, c.number)};
-}
-
-/// The shipped dialing rules with another French international prefix.
-std::string dialingRulesWithFrenchPrefix(const std::string& prefix) {
-    std::ifstream shippedRules(std::string(NUMBERING_SHIPPED_DATA) + "dialingrules_default.properties");
-    std::string text((std::istreambuf_iterator<char>(shippedRules)), std::istreambuf_iterator<char>());
-    const std::string france = "FR=33:00:";
-    const std::string::size_type at = text.find(france);
-    return at == std::string::npos ? text : text.replace(at, france.size(), "FR=33:" + prefix + ":");
-}
-
-std::vector<std::vector<std::string>> convertAll() {
-    std::vector<std::vector<std::string>> results;
-    for (const Conversion& c : RELOADED)
-        results.push_back(convertOnce(c));
-    return results;
-}
-
-} // namespace
-
-namespace {
-
-const ConfigurationCopy::Files VARIANT_A = {
-    {"dlr_cnp_mask.properties", "Mask_33_1=+C (a) x xx xx xx xx\nMask_49_1=+C (A) x\n"
-                                "Mask_44_1=+C (A) x\nMask_1_1=+C (A) x\n"},
-    {"tz310cnp_49.properties", "Translate=1\nAC_0000=30\nAC_0001=89\n"},
-    {"dialingrules.properties", dialingRulesWithFrenchPrefix("00")}};
-const ConfigurationCopy::Files VARIANT_B = {
-    {"dlr_cnp_mask.properties", "Mask_33_1=+C (a) xxxxxxxxx\nMask_49_1=+C (A) xx xx x\n"
-                                "Mask_44_1=+C (A) xx x\nMask_1_1=+C (A) xxx x\n"},
-    {"tz310cnp_49.properties", "Translate=1\nAC_0000=30\nAC_0001=891\n"},
-    {"dialingrules.properties", dialingRulesWithFrenchPrefix("000")}};
+using namespace reloaded;
 
 /// Threads converting the RELOADED numbers until told to stop, each result checked against the
 /// answers of the configurations it may meet.
@@ -215,7 +139,7 @@ public:
 
 private:
     void run(int t) {
-        const std::size_t count = sizeof RELOADED / sizeof RELOADED[0];
+        const std::size_t count = RELOADED.size();
         for (std::size_t i = static_cast<std::size_t>(t) % count; converting.load(); i = (i + 1) % count) {
             // A pause now and then leaves the reloading thread some of the two cores.
             if (i == 0)

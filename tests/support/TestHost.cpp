@@ -24,10 +24,12 @@ std::vector<std::string>& lines() {
 }
 
 void clear() {
+    std::lock_guard<std::mutex> lock(linesMutex);
     lines().clear();
 }
 
 int countLogged(const std::string& text) {
+    std::lock_guard<std::mutex> lock(linesMutex);
     return static_cast<int>(std::count_if(lines().begin(), lines().end(), [&](const std::string& line) {
         return line.find(text) != std::string::npos;
     }));

@@ -50,7 +50,7 @@ int runCheck(const std::string& directory, const Options& options) {
                 line.add("alike", finding.alike);
             std::cout << line.text() << '\n';
         } else {
-            std::cout << describe(finding) << '\n';
+            std::cout << finding.text() << '\n';
         }
     }
     std::cout.flush();

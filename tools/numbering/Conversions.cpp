@@ -40,7 +40,7 @@ std::unique_ptr<KesDialRulesItem> makeInstallation(const Options& options, bool 
         for (const KesConfigurationFinding& finding : settings.findings) {
             const bool error = finding.severity == KesConfigurationFinding::Severity::Error;
             if (error || warnings)
-                std::cerr << "numbering: " << describe(finding) << "\n";
+                std::cerr << "numbering: " << finding.text() << "\n";
             refused = refused || error;
         }
         if (!refused)

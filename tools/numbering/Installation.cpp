@@ -46,10 +46,3 @@ Installation readInstallation(const Options& options) {
             finding.file = optionOf(finding.key);
     return installation;
 }
-
-std::string describe(const KesConfigurationFinding& finding) {
-    std::string text = finding.file + ':';
-    if (finding.line > 0)
-        text += std::to_string(finding.line) + ':';
-    return text + ' ' + KesConfigurationFinding::severityName(finding.severity) + ": " + finding.message;
-}

@@ -20,7 +20,4 @@ struct Installation {
 /// site file cannot be opened.
 Installation readInstallation(const Options& options);
 
-/// "file:line: severity: message", the line left out when it is not known.
-std::string describe(const numbering::KesConfigurationFinding& finding);
-
 #endif

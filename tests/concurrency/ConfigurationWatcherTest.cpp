@@ -1,0 +1,118 @@
+// The watcher of the configuration directory, on copies of the shipped configuration: an edit is
+// taken once the files are quiet, a broken edit is refused and logged, and stopping is prompt and
+// clean, also while a change waits for the settle time. Built under the sanitizers with the suite.
+#include "ReloadedWorld.h"
+#include "TestHost.h"
+
+#include "numbering/KesConfigurationWatcher.h"
+#include "numbering/KesNumberingRules.h"
+
+#include <gtest/gtest.h>
+
+#include <chrono>
+#include <fstream>
+#include <string>
+#include <thread>
+
+using namespace numbering;
+using namespace reloaded;
+
+namespace {
+
+const std::chrono::milliseconds SETTLE(50);
+const std::chrono::seconds
+    PATIENCE(60); // for a loaded machine under a sanitizer: never waited out when all is well
+
+/// Whether `condition` holds within PATIENCE.
+template <class Condition> bool eventually(Condition condition) {
+    const auto giveUp = std::chrono::steady_clock::now() + PATIENCE;
+    while (!condition()) {
+        if (std::chrono::steady_clock::now() > giveUp)
+            return false;
+        std::this_thread::sleep_for(std::chrono::milliseconds(10));
+    }
+    return true;
+}
+
+/// The threads of this process.
+int threadCount() {
+    std::ifstream status("/proc/self/status");
+    for (std::string line; std::getline(status, line);)
+        if (line.rfind("Threads:", 0) == 0)
+            return std::stoi(line.substr(8));
+    return -1;
+}
+
+const std::string LOGGED_AS = "INFO N9numbering23KesConfigurationWatcherE - ";
+
+/// A world in VARIANT_A, reloaded, with the results of both variants.
+class WatchedWorld : public ::testing::Test {
+protected:
+    void SetUp() override {
+        {
+            ConfigurationCopy expected("expected", VARIANT_B);
+            KesNumberingRules::reload(expected.directory());
+            inB = convertAll();
+        }
+        KesNumberingRules::reload(world.directory(), ReloadPolicy::RefuseErrors);
+        inA = convertAll();
+        ASSERT_NE(inA, inB);
+        threadsBefore = threadCount();
+        testhost::clear();
+    }
+    void TearDown() override {
+        EXPECT_TRUE(eventually([&] { return threadCount() == threadsBefore; }))
+            << "the watcher's threads ended";
+        KesNumberingRules::reload(std::string());
+    }
+
+    ConfigurationCopy world{"watched", VARIANT_A};
+    std::vector<std::vector<std::string>> inA, inB;
+    int threadsBefore = 0;
+};
+
+} // namespace
+
+TEST_F(WatchedWorld, AnEditIsTakenOnceTheFilesAreQuiet) {
+    KesConfigurationWatcher watcher(world.directory(), SETTLE);
+    EXPECT_EQ(threadCount(), threadsBefore) << "no thread until the host starts it";
+    watcher.start();
+    EXPECT_TRUE(watcher.running());
+    EXPECT_GT(threadCount(), threadsBefore);
+
+    world.write(VARIANT_B);
+    EXPECT_TRUE(eventually([&] { return convertAll() == inB; }));
+    EXPECT_TRUE(eventually([&] {
+        return testhost::logged(LOGGED_AS + "Reloaded the configuration of " + world.directory() +
+                                " after a change");
+    }));
+} // the destructor stops it
+
+TEST_F(WatchedWorld, ABrokenEditIsRefusedAndLoggedThenTheCorrectionTaken) {
+    KesConfigurationWatcher watcher(world.directory(), SETTLE);
+    watcher.start();
+    world.write({{"dlr_cnp_mask.properties", utf16(VARIANT_B[0].second)}});
+    const std::string refused = LOGGED_AS + "Refused the configuration of " + world.directory() +
+                                ", the running configuration stays: " + world.directory() +
+                                "dlr_cnp_mask.properties: error: ";
+    ASSERT_TRUE(eventually([&] { return testhost::logged(refused); }));
+    EXPECT_TRUE(testhost::logged(" other finding"));
+    EXPECT_EQ(convertAll(), inA);
+
+    world.write(VARIANT_B);
+    EXPECT_TRUE(eventually([&] { return convertAll() == inB; }));
+    watcher.stop();
+    EXPECT_FALSE(watcher.running());
+}
+
+TEST_F(WatchedWorld, StoppingDropsAPendingChange) {
+    KesConfigurationWatcher watcher(world.directory(), std::chrono::hours(1));
+    watcher.start();
+    world.write(VARIANT_B); // waits an hour for quiet files
+    const auto asked = std::chrono::steady_clock::now();
+    watcher.stop();
+    EXPECT_LT(std::chrono::steady_clock::now() - asked, PATIENCE) << "stopping waits for no settle time";
+    EXPECT_FALSE(watcher.running());
+    EXPECT_EQ(convertAll(), inA);
+    EXPECT_FALSE(testhost::logged(LOGGED_AS));
+}
