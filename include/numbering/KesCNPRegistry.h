@@ -30,20 +30,24 @@ public:
         Guessed, ///< behind an area code it guesses (the installation's own, the first digits)
     };
 
+    /// One plan: its calling code, its country, how it is made and what it reads.
     struct Plan {
         const char* callingCode; ///< "49"
         /// "DE": the country the plan is written for; the dialing rules may give its calling code
         /// to others too ("CA" shares +1), which then get the same plan.
         const char* country;
-        KesCNP* (*create)(); ///< a new plan, reference count 1; its constructor reads its files
-        Reads reads = Reads::Nothing;
+        KesCNP* (*create)();          ///< a new plan, reference count 1; its constructor reads its files
+        Reads reads = Reads::Nothing; ///< what the plan (or the country's dialing) reads
         UnknownAreaCode unknownAreaCode = UnknownAreaCode::Neutral; ///< for plans with area codes
         bool looksUpCountry = false; ///< the national prefix comes from the dialing rules row of `country`
 
+        /// Whether the plan reads area codes from its file.
         bool readsAreaCodes() const {
             return reads == Reads::AreaCodes || reads == Reads::TranslateAndAreaCodes;
         }
+        /// The plan's installation file, "tz310cnp_<code>.properties".
         std::string installationFile() const { return KesCNPRegistry::installationFile(callingCode); }
+        /// The plan's default file, "tz310cnp_<code>_default.properties".
         std::string defaultFile() const { return KesCNPRegistry::defaultFile(callingCode); }
     };
 
