@@ -96,6 +96,8 @@ const BrokenConfiguration BROKEN[] = {
      "stops reading the dialing rules here, and the 2 rows after it"},
     {RULES_FILE, RULES + "GB=44:00:EF\n", ERROR, 6, "GB has 3 fields"},
     {RULES_FILE, RULES + "GB=4a:00:EF:0F::UK:P\n", ERROR, 6, "calling code '4a' is not one to three digits"},
+    {RULES_FILE, RULES + "GB=4412:00:EF:0F::UK:P\n", ERROR, 6,
+     "calling code '4412' is not one to three digits"},
     {RULES_FILE, RULES + "GB=44:0O:EF:0F::UK:P\n", ERROR, 6, "international prefix '0O' is not digits"},
     {RULES_FILE, RULES + "GB=44:00:EF:0EF::UK:P\n", ERROR, 6, "long-distance prefix '0E'"},
     {RULES_FILE, RULES + "GB=44:00:EFI:0F::UK:P\n", WARNING, 6,

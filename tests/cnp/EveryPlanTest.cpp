@@ -144,28 +144,23 @@ TEST_P(EveryPlan, ReadsItsCountrysRowOnlyWhenItLooksItUp) {
     EXPECT_EQ(convertAll() != withRow, row.looksUpCountry) << withRow;
 }
 
-TEST_P(EveryAreaCodePlan, MissingInstallationFileFallsBackToTheDefaultWithThePlansText) {
-    const KesCNPRegistry::Plan& row = GetParam();
-    testconfig::write(row.defaultFile(), "Translate=0\n" + areaCodeLines({"7"}));
-    testhost::Tracing off(false);
-    Poco::AutoPtr<KesAreaCodePlan> plan = filePlan(row.callingCode);
-    EXPECT_EQ(plan->areaCodeCount, 1);
-    EXPECT_EQ(plan->translate, row.reads != Reads::TranslateAndAreaCodes) << "Translate=0 read";
-    EXPECT_EQ(testhost::lines().size(), 1u);
-    EXPECT_TRUE(testhost::logged("INFO " + loggerOf(std::string("KesCNP_") + row.callingCode) + " - " +
-                                 textsWhenNoFile(row.callingCode).second));
-}
-
-// An installation file that is a directory cannot be opened: the plan's other text, then the default.
-TEST_P(EveryAreaCodePlan, UnopenableFileGivesThePlansOtherTextAndTheDefault) {
+// A missing installation file, or one that is a directory and cannot be opened: the plan's text for
+// that case once, then the default file.
+TEST_P(EveryAreaCodePlan, FallsBackToTheDefaultFileWithThePlansTexts) {
     const KesCNPRegistry::Plan& row = GetParam();
     const std::string directory = testconfig::directory() + row.installationFile();
-    ASSERT_EQ(::mkdir(directory.c_str(), 0755), 0);
-    testconfig::write(row.defaultFile(), "Translate=1\n" + areaCodeLines({"7"}));
-    testhost::Tracing off(false);
-    EXPECT_EQ(filePlan(row.callingCode)->areaCodeCount, 1);
-    EXPECT_TRUE(testhost::logged("INFO " + loggerOf(std::string("KesCNP_") + row.callingCode) + " - " +
-                                 textsWhenNoFile(row.callingCode).first));
+    const auto texts = textsWhenNoFile(row.callingCode);
+    for (bool unopenable : {false, true}) {
+        ASSERT_TRUE(!unopenable || ::mkdir(directory.c_str(), 0755) == 0);
+        testconfig::write(row.defaultFile(), "Translate=0\n" + areaCodeLines({"7"}));
+        testhost::Tracing off(false);
+        Poco::AutoPtr<KesAreaCodePlan> plan = filePlan(row.callingCode);
+        EXPECT_EQ(plan->areaCodeCount, 1);
+        EXPECT_EQ(plan->translate, row.reads != Reads::TranslateAndAreaCodes) << "Translate=0 read";
+        EXPECT_EQ(testhost::lines(),
+                  std::vector<std::string>{"INFO " + loggerOf(std::string("KesCNP_") + row.callingCode) +
+                                           " - " + (unopenable ? texts.first : texts.second)});
+    }
     ::rmdir(directory.c_str());
 }
 

@@ -83,17 +83,10 @@ TEST_F(NumberingConfig, ShortestCountryNumberWinsUpToFourCharacters) {
     EXPECT_EQ(config->extractCountryNumber("+12685551234"), "") << "a plus is not stripped";
 }
 
-TEST_F(NumberingConfig, DefaultFileIsReadOnlyWhenTheInstallationFileIsMissing) {
+// With both present the installation file alone counts: the two are never merged.
+TEST_F(NumberingConfig, DefaultFileIsNotReadBesideTheInstallationFile) {
     testconfig::write("dialingrules_default.properties", "DE = 49:00:EF:0F::Germany:P\n");
-    testconfig::reload();
-    testhost::clear();
-    KesNumberingConfig* config = KesNumberingConfig::getInstance();
-    EXPECT_TRUE(testhost::logged(
-        "INFO N9numbering18KesNumberingConfigE - No specific dialing rules configuration file"));
-    EXPECT_EQ(config->getCountryNumber("DE"), "49");
-
-    // With both present the installation file alone counts: the two are never merged.
-    config = load("FR = 33:00:EF:0F::France:P\n");
+    KesNumberingConfig* config = load("FR = 33:00:EF:0F::France:P\n");
     EXPECT_EQ(config->getCountryNumber("FR"), "33");
     EXPECT_EQ(config->getCountryNumber("DE"), "");
 }
@@ -102,8 +95,9 @@ TEST_F(NumberingConfig, NoFileAtAllLeavesAnEmptyStore) {
     testconfig::reload();
     testhost::clear();
     KesNumberingConfig* config = KesNumberingConfig::getInstance();
-    EXPECT_TRUE(testhost::logged(
-        "ERROR N9numbering18KesNumberingConfigE - KesNumberingConfig::loadDialingRules Exception : "));
+    for (const char* load : {"loadDialingRules", "loadCountryMasks", "loadSpecificFormatActivation"})
+        EXPECT_TRUE(testhost::logged("ERROR N9numbering18KesNumberingConfigE - KesNumberingConfig::" +
+                                     std::string(load) + " Exception : "));
     EXPECT_TRUE(config->getCountryList().empty());
     EXPECT_EQ(config->getCountryCodeFromNumber("33"), "");
     EXPECT_EQ(config->getDefaultPattern("33"), "");
@@ -159,18 +153,6 @@ TEST_F(NumberingConfig, MaskCountLineSkipsAsManyCharactersAsMasksLoaded) {
     // More masks than characters: an empty message, never a read outside the text.
     EXPECT_TRUE(std::find(testhost::lines().begin(), testhost::lines().end(),
                           "DEBUG N9numbering18KesNumberingConfigE - ") != testhost::lines().end());
-}
-
-TEST_F(NumberingConfig, MissingMaskFileFallsBackWithTheDialingRulesText) {
-    testconfig::write("dialingrules.properties", "DE = 49:00:EF:0F::Germany:P\n");
-    testconfig::write("dlr_cnp_mask_default.properties", "Mask_49_1 = default\n");
-    testconfig::reload();
-    testhost::clear();
-    KesNumberingConfig* config = KesNumberingConfig::getInstance();
-    EXPECT_EQ(config->getDefaultPattern("49"), "default");
-    EXPECT_TRUE(testhost::logged(
-        "INFO N9numbering18KesNumberingConfigE - No specific format activation configuration file"));
-    EXPECT_TRUE(testhost::logged("KesNumberingConfig::loadSpecificFormatActivation Exception : "));
 }
 
 TEST_F(NumberingConfig, SwitchesAreFiledUnderZero) {

@@ -4,7 +4,6 @@
 
 using namespace numbering;
 using facadeworld::FacadeTest;
-using facadeworld::invalidArgumentText;
 
 namespace {
 
@@ -83,12 +82,8 @@ TEST_F(CanonicalNumber, TypedNumbers) {
     }
 }
 
-TEST_F(CanonicalNumber, UnusableArgumentsAndTheErrorLine) {
+TEST_F(CanonicalNumber, ServiceCharactersAndTheErrorLine) {
     KesDialRulesItem rules = facadeworld::stockholm();
-    EXPECT_EQ(invalidArgumentText([&] { facade->makeCanonicalNumber(nullptr, "", ""); }),
-              "'myKesDialRulesItem' parameter can not be null");
-    EXPECT_EQ(invalidArgumentText([&] { facade->makeCanonicalNumber(&rules, "", "", true); }),
-              "'strPhoneNumber' parameter can not be null");
     EXPECT_EQ(facade->makeCanonicalNumber(&rules, " 12***34 ", "+C (A) x"), " 12***34 ");
     EXPECT_EQ(facade->makeCanonicalNumber(&rules, "0123x", "P"), "");
     EXPECT_EQ(

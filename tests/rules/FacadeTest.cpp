@@ -6,6 +6,7 @@
 
 #include <Poco/AutoPtr.h>
 
+#include <functional>
 #include <string>
 #include <vector>
 
@@ -73,10 +74,28 @@ TEST_F(Facade, CallerLineIdentities) {
     const int before = KesClid::_count;
     EXPECT_EQ(facade->makeClid(&stockholm, "0123x"), nullptr);
     EXPECT_EQ(KesClid::_count, before);
-    EXPECT_EQ(invalidArgumentText([&] { facade->makeClid(nullptr, ""); }),
-              "'myKesDialRulesItem' parameter can not be null");
-    EXPECT_EQ(invalidArgumentText([&] { facade->makeClid(&stockholm, ""); }),
-              "'strPhoneNumber' parameter can not be null");
+}
+
+// Every conversion that takes installation rules and a number refuses a null rules pointer and an
+// empty number with the same two messages.
+TEST_F(Facade, MissingArgumentsOfEveryConversion) {
+    KesDialRulesItem rules = facadeworld::stockholm();
+    const std::function<void(KesDialRulesItem*, const std::string&)> conversions[] = {
+        [&](KesDialRulesItem* r, const std::string& n) { facade->makeCanonicalNumber(r, n, "", true); },
+        [&](KesDialRulesItem* r, const std::string& n) { facade->makeGSMCanonicalNumber(r, n, false); },
+        [&](KesDialRulesItem* r, const std::string& n) { facade->makePhoneNumber(r, n); },
+        [&](KesDialRulesItem* r, const std::string& n) { facade->addExternalPrefix(r, n); },
+        [&](KesDialRulesItem* r, const std::string& n) { Poco::AutoPtr<KesClid>(facade->makeClid(r, n)); },
+    };
+    int index = 0;
+    for (const auto& convert : conversions) {
+        EXPECT_EQ(invalidArgumentText([&] { convert(nullptr, ""); }),
+                  "'myKesDialRulesItem' parameter can not be null")
+            << index;
+        EXPECT_EQ(invalidArgumentText([&] { convert(&rules, ""); }),
+                  "'strPhoneNumber' parameter can not be null")
+            << index++;
+    }
 }
 
 } // namespace

@@ -28,6 +28,8 @@ expect "batch with numbers that cannot be converted" 1 \
     "0123456789${tab}+33 (0) 1 23 45 67 89"$'\n'"0123x${tab}"$'\n'"+99 1${tab}" \
     "numbering: line 2: '0123x' is not a telephone number: 'x' is neither a digit nor one of \"+ ()-.*#ABCD\""$'\n'"numbering: line 3: '+99 1': no result from the library (canonical, installation in FR; --trace shows why)"
 
+run -c FR -l 1000 canonical 0123456789
+expect "the longest local length" 0 "+33 (0) 1 23 45 67 89"
 run -c FR canonical ""
 expect "empty number as argument" 1 "" "numbering: empty number: nothing to convert"
 
@@ -51,6 +53,7 @@ done <<EOF_REFUSED
 -x 0A dial 0123456789|--ext-prefix: error: the outside-line prefix '0A' holds 'A', which is no digit
 --bogus canonical 0123456789|unknown option --bogus
 -l many canonical 0123456789|option -l wants a whole number
+-l 1001 canonical 0123456789|option -l wants a whole number from 0 to 1000
 -c|option -c wants a value
 frobnicate 0123456789|unknown command 'frobnicate'
 --config-dir $work canonical 0123456789|no dialing rules in $work/
