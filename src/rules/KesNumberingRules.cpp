@@ -34,11 +34,15 @@ template <> void Singleton<KesNumberingRules>::destroyObject(KesNumberingRules* 
 
 namespace {
 
-/// A reloaded generation reads every file it may need now, and its store at once: plans and
-/// strategies are still made on first use, from the files as they were at the reload.
-void readAtReload(Generation& fresh) {
-    fresh.takeFiles(readConfigurationFiles(fresh.directory));
+/// A reloaded generation keeps `files`, every file it may need as they are now, and builds its store
+/// from them at once: plans and strategies are still made on first use, from those files.
+void activate(Generation& fresh, std::unique_ptr<const FileSnapshot> files) {
+    fresh.takeFiles(std::move(files));
     storeOf(fresh);
+}
+
+void readAtReload(Generation& fresh) {
+    activate(fresh, readConfigurationFiles(fresh.directory));
 }
 
 /// readAtReload, but the files read are checked first, and refused with an error.
@@ -47,8 +51,7 @@ void readCheckedAtReload(Generation& fresh) {
     KesConfigurationReport report = configcheck::checkFiles(fresh.directory, *files);
     if (report.status() == static_cast<int>(KesConfigurationFinding::Severity::Error))
         throw KesConfigurationRejected(fresh.directory, std::move(report));
-    fresh.takeFiles(std::move(files));
-    storeOf(fresh);
+    activate(fresh, std::move(files));
 }
 
 } // namespace
