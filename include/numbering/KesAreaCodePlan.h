@@ -36,7 +36,7 @@ public:
     };
     /// What tells one two-pass plan's conversion from another's.
     struct TwoPassRules {
-        const char* head;                ///< the start of every canonical number, "+49 ("
+        const char* callingCode;         ///< the country's, "49"
         UnknownAreaCode unknownAreaCode; ///< where a number with no known area code is split
     };
     /// Which numbers without national prefix are completed with the installation's area code.
@@ -48,7 +48,7 @@ public:
     };
     /// What tells one one-pass plan's conversion from another's.
     struct OnePassRules {
-        const char* head;                ///< the start of every canonical number, "+31 ("
+        const char* callingCode;         ///< the country's, "31"
         std::size_t minimumLength;       ///< shorter numbers come back unchanged
         LocalRule localRule;             ///< which numbers without national prefix are completed
         UnknownAreaForm unknownAreaForm; ///< how a number with no known area code is written
@@ -77,15 +77,15 @@ protected:
 
     /// `national` (a national number without its prefix) split at its stored area code, or written
     /// in `unknownAreaForm` when it begins with none.
-    std::string placeAtAreaCode(std::string_view head, std::string_view national,
+    std::string placeAtAreaCode(std::string_view callingCode, std::string_view national,
                                 UnknownAreaForm unknownAreaForm, Logger* planLogger);
-    /// head + areaCode + ") " + subscriber, head being the "+49 (" of the country.
-    static std::string canonical(std::string_view head, std::string_view areaCode,
+    /// The canonical form "+" callingCode " (" areaCode ") " subscriber.
+    static std::string canonical(std::string_view callingCode, std::string_view areaCode,
                                  std::string_view subscriber);
     /// When `translate` is on and the installation has an area code, `result` becomes the local
     /// number behind that area code; answers whether it did.
-    bool completeWithOwnAreaCode(std::string_view head, std::string_view local, KesDialRulesItem* rules,
-                                 std::string& result);
+    bool completeWithOwnAreaCode(std::string_view callingCode, std::string_view local,
+                                 KesDialRulesItem* rules, std::string& result);
 
     /// The number as it stands, then behind the installation's outside-line prefix.
     std::string convertInTwoPasses(const TwoPassRules& plan, const std::string& number,

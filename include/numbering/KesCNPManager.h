@@ -9,6 +9,7 @@
 
 #include <memory>
 #include <string>
+#include <string_view>
 #include <vector>
 
 class Logger;
@@ -51,6 +52,7 @@ public:
 
 private:
     friend KesCNPManager& planCacheOf(Generation& generation);
+    friend KesCNP* planOf(Generation& generation, std::string_view country);
     explicit KesCNPManager(Generation& generation);
     KesCNPManager(const KesCNPManager&) = delete;
     KesCNPManager& operator=(const KesCNPManager&) = delete;

@@ -35,7 +35,7 @@ public:
 
 private:
     bool place(std::string_view number, KesDialRulesItem* rules, std::string& result);
-    std::string placeNationalNumber(std::string_view head, std::string_view national);
+    std::string placeNationalNumber(std::string_view marker, std::string_view national);
 };
 
 } // namespace numbering

@@ -62,6 +62,7 @@ public:
     static Logger* logger;
 
 private:
+    friend class KesNumberingConfig; // makes the rules of each country's national numbers
     static void checkCountry(const std::string& code);
 
     std::string countryId;

@@ -9,6 +9,7 @@
 
 #include <memory>
 #include <string>
+#include <string_view>
 
 class Logger;
 
@@ -46,6 +47,7 @@ public:
 
 private:
     friend KesDialableManager& strategyCacheOf(Generation& generation);
+    friend KesDialable* dialableOf(Generation& generation, std::string_view countryNumber);
     explicit KesDialableManager(Generation& generation);
     KesDialableManager(const KesDialableManager&) = delete;
     KesDialableManager& operator=(const KesDialableManager&) = delete;

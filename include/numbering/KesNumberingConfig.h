@@ -18,6 +18,7 @@ class Logger;
 namespace numbering {
 
 class Generation;
+class KesDialRulesItem;
 template <class Value> class TextKeyMap;
 
 /// The process-wide store of per-country telephony facts: the dialing rules (country code,
@@ -65,8 +66,20 @@ public:
     // The same look-ups for the conversions, answered from a flat index without copying the key
     // or the answer: null (or 0) where the operations above answer "" or null.
 
+    /// The country of a primary calling code.
+    struct Country {
+        std::string code;         ///< the two-letter code of the row
+        KesCountryRuleItem* rule; ///< the row
+        /// The rules the country's national numbers are read with when another country dials them:
+        /// KesDialRulesItem(code, "", 0, "", 0, ""), made once; null for a code that is not two
+        /// characters long, which the dialing rules refuse.
+        std::unique_ptr<KesDialRulesItem> nationalRules;
+    };
+
     /// As getCountryRule.
     KesCountryRuleItem* findCountryRule(std::string_view code) const;
+    /// The country of the primary calling code `number`, or null.
+    const Country* findCountry(std::string_view number) const;
     /// As getCountryCodeFromNumber.
     const std::string* findCountryCode(std::string_view number) const;
     /// getCountryRule(getCountryCodeFromNumber(number)).
@@ -118,16 +131,10 @@ public:
     static std::string SPECIFIC_FORMAT_DEFAULT_FILE; ///< read when SPECIFIC_FORMAT_FILE cannot be opened
 
 private:
-    friend KesNumberingConfig& storeOf(Generation& generation);
+    friend KesNumberingConfig& loadStoreOf(Generation& generation);
     explicit KesNumberingConfig(Generation& generation);
     KesNumberingConfig(const KesNumberingConfig&) = delete;
     KesNumberingConfig& operator=(const KesNumberingConfig&) = delete;
-
-    /// The country of a primary calling code.
-    struct Country {
-        std::string code;
-        KesCountryRuleItem* rule; // null when the code names no record
-    };
 
     Generation& generation;                                   // where this store's files are read
     std::unique_ptr<TextKeyMap<Country>> countryCodeByNumber; // primary rows only

@@ -1,5 +1,6 @@
 #include "numbering/KesAreaCodePlan.h"
 
+#include "common/CanonicalNumber.h"
 #include "config/PropertyFiles.h"
 #include "config/PropertyRules.h"
 #include "lifecycle/Conversion.h"
@@ -67,33 +68,30 @@ std::size_t KesAreaCodePlan::areaCodeAt(std::string_view national, Logger* planL
     return length;
 }
 
-std::string KesAreaCodePlan::placeAtAreaCode(std::string_view head, std::string_view national,
+std::string KesAreaCodePlan::placeAtAreaCode(std::string_view callingCode, std::string_view national,
                                              UnknownAreaForm unknownAreaForm, Logger* planLogger) {
     std::size_t areaLength = areaCodeAt(national, planLogger);
     if (areaLength == 0) {
         if (unknownAreaForm == UnknownAreaForm::NationalPrefixInParentheses)
-            return canonical(head, "0", national);
+            return canonical(callingCode, "0", national);
         areaLength = std::min<std::size_t>(2, national.size());
     }
-    return canonical(head, national.substr(0, areaLength), national.substr(areaLength));
+    return canonical(callingCode, national.substr(0, areaLength), national.substr(areaLength));
 }
 
-std::string KesAreaCodePlan::canonical(std::string_view head, std::string_view areaCode,
+std::string KesAreaCodePlan::canonical(std::string_view callingCode, std::string_view areaCode,
                                        std::string_view subscriber) {
-    std::string result;
-    result.reserve(head.size() + areaCode.size() + 2 + subscriber.size());
-    result.append(head).append(areaCode).append(") ").append(subscriber);
-    return result;
+    return CanonicalNumber::write(callingCode, areaCode, subscriber);
 }
 
-bool KesAreaCodePlan::completeWithOwnAreaCode(std::string_view head, std::string_view local,
+bool KesAreaCodePlan::completeWithOwnAreaCode(std::string_view callingCode, std::string_view local,
                                               KesDialRulesItem* rules, std::string& result) {
     if (!translate)
         return false;
     std::string own = rules->getAreaCode();
     if (own.empty())
         return false;
-    result = canonical(head, own, local);
+    result = canonical(callingCode, own, local);
     return true;
 }
 

@@ -54,11 +54,12 @@ std::string KesCNP_1::dlr_Country_MakeCanonicalNumber(std::string number, KesDia
         // Without an own area code the local number still gets a canonical form, with a visible
         // "?" where the area code belongs.
         std::string area = rules->getAreaCode();
-        return canonicalNumber("1", area.empty() ? std::string_view("?") : std::string_view(area), cur);
+        return CanonicalNumber::write("1", area.empty() ? std::string_view("?") : std::string_view(area),
+                                      cur);
     }
     if (isZeroOrOne(cur[0]) || isZeroOrOne(cur[3]))
         return number;
-    return canonicalNumber("1", cur.substr(0, 3), cur.substr(3));
+    return CanonicalNumber::write("1", cur.substr(0, 3), cur.substr(3));
 }
 
 } // namespace numbering

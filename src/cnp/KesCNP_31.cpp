@@ -19,7 +19,7 @@ namespace {
 const KesAreaCodePlan::PlanFile PLAN_FILE = {"31", "No specific configuration file for Netherlands",
                                              "No specific dialing rules configuration file"};
 
-const KesCNP_31::OnePassRules CONVERSION = {"+31 (", 6, KesCNP_31::LocalRule::AnyFirstDigit,
+const KesCNP_31::OnePassRules CONVERSION = {"31", 6, KesCNP_31::LocalRule::AnyFirstDigit,
                                             KesCNP_31::UnknownAreaForm::NationalPrefixInParentheses,
                                             "dlr_Country_MakeCanonicalNumber returns '"};
 

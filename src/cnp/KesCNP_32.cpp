@@ -20,7 +20,7 @@ const KesAreaCodePlan::PlanFile PLAN_FILE = {"32", "No specific configuration fi
                                              "No specific dialing rules configuration file"};
 
 // Numbers without national prefix are never completed: the plan reads no "Translate".
-const KesCNP_32::OnePassRules CONVERSION = {"+32 (", 9, KesCNP_32::LocalRule::None,
+const KesCNP_32::OnePassRules CONVERSION = {"32", 9, KesCNP_32::LocalRule::None,
                                             KesCNP_32::UnknownAreaForm::NationalPrefixInParentheses,
                                             "dlr_Country_MakeCanonicalNumber returns '"};
 

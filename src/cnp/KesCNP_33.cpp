@@ -16,7 +16,7 @@ namespace {
 
 // The national prefix stays in the parentheses, the rest is the subscriber number.
 std::string frenchCanonical(std::string_view national) {
-    return canonicalNumber("33", national.substr(0, 1), national.substr(1));
+    return CanonicalNumber::write("33", national.substr(0, 1), national.substr(1));
 }
 
 const FixedLengthPlan FRANCE = {"FR", 10, true, frenchCanonical};

@@ -20,7 +20,7 @@ const KesAreaCodePlan::PlanFile PLAN_FILE = {"353", "No specific dialing rules c
                                              "No specific dialing rules configuration for Ireland"};
 
 // A national number with an unknown area code is split behind its first two digits.
-const KesCNP_353::OnePassRules CONVERSION = {"+353 (", 5, KesCNP_353::LocalRule::AnyFirstDigit,
+const KesCNP_353::OnePassRules CONVERSION = {"353", 5, KesCNP_353::LocalRule::AnyFirstDigit,
                                              KesCNP_353::UnknownAreaForm::FirstTwoDigits,
                                              "DlrCountryMakeCanonicalNumber returns '"};
 

@@ -37,19 +37,16 @@ std::string KesCNP_41::dlr_Country_MakeCanonicalNumber(std::string number, KesDi
     if (cur.size() == 9) {
         if (!startsWith(cur, szLocalNumberPfx))
             return number;
-        return canonicalNumber("41", "1", cur.substr(2));
+        return CanonicalNumber::write("41", "1", cur.substr(2));
     }
     if (cur[0] != '0')
         return number;
     if (startsWith(cur, szFreePhonePfx)) {
         // Free-phone numbers are written "+41 800" with the digits straight after, without blank
         // or parentheses: deliberately unlike the area code forms, and kept so.
-        std::string result;
-        result.reserve(cur.size() + 3);
-        result.append("+41 800").append(cur.substr(4));
-        return result;
+        return CanonicalNumber::writeWithoutArea("41", cur.substr(1));
     }
-    return canonicalNumber("41", cur.substr(1, 2), cur.substr(3));
+    return CanonicalNumber::write("41", cur.substr(1, 2), cur.substr(3));
 }
 
 } // namespace numbering

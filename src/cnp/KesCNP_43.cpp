@@ -22,7 +22,7 @@ const KesAreaCodePlan::PlanFile PLAN_FILE = {"43", "No specific configuration fi
                                              "No specific dialing rules configuration file"};
 
 // A national number with an unknown area code is taken to begin with a four-digit one.
-const KesCNP_43::TwoPassRules CONVERSION = {"+43 (", KesCNP_43::UnknownAreaCode::FirstFourDigits};
+const KesCNP_43::TwoPassRules CONVERSION = {"43", KesCNP_43::UnknownAreaCode::FirstFourDigits};
 
 const SelfTestCase SELF_TEST[] = {
     {"Local 27722 -> ", "27722"},

@@ -20,7 +20,7 @@ const KesAreaCodePlan::PlanFile PLAN_FILE = {"44", "No specific configuration fi
                                              "No specific dialing rules configuration file"};
 
 // Only numbers beginning with 2 to 9 are local numbers.
-const KesCNP_44::OnePassRules CONVERSION = {"+44 (", 6, KesCNP_44::LocalRule::FirstDigitTwoToNine,
+const KesCNP_44::OnePassRules CONVERSION = {"44", 6, KesCNP_44::LocalRule::FirstDigitTwoToNine,
                                             KesCNP_44::UnknownAreaForm::NationalPrefixInParentheses,
                                             "dlr_Country_MakeCanonicalNumber returns '"};
 

@@ -22,7 +22,7 @@ const KesAreaCodePlan::PlanFile PLAN_FILE = {"49", "No specific dialing rules co
                                              "No specific dialing rules configuration file"};
 
 // A national number with an unknown area code goes behind the installation's own area code.
-const KesCNP_49::TwoPassRules CONVERSION = {"+49 (", KesCNP_49::UnknownAreaCode::OwnAreaCodeInFront};
+const KesCNP_49::TwoPassRules CONVERSION = {"49", KesCNP_49::UnknownAreaCode::OwnAreaCodeInFront};
 
 const SelfTestCase SELF_TEST[] = {
     {"Local 76985411 -> ", "76985411"},

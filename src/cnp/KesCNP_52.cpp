@@ -24,8 +24,7 @@ const KesAreaCodePlan::PlanFile PLAN_FILE = {"52", "No specific configuration fi
 
 // The forms the Mexican dialing strategy reads back: a mobile keeps the mobile marker "1" in front
 // of its area code, and 044/045 are its national mobile prefixes.
-const char* const HEAD = "+52 (";
-const char* const MOBILE_HEAD = "+52 (1";
+const char* const CALLING_CODE = "52";
 const std::size_t NATIONAL_LENGTH = 10;
 const std::string_view NATIONAL_PREFIX = "01";
 const std::string_view MOBILE_MARKER = "1";
@@ -53,11 +52,13 @@ bool KesCNP_52::isTwoDigitsAreaCode(std::string number) {
 }
 
 // The area code listed in the plan file wins; otherwise the fixed two-or-three-digit rule.
-std::string KesCNP_52::placeNationalNumber(std::string_view head, std::string_view national) {
+std::string KesCNP_52::placeNationalNumber(std::string_view marker, std::string_view national) {
     std::size_t areaLength = areaCodeAt(national, logger);
     if (areaLength == 0)
         areaLength = isTwoDigitsAreaCode(std::string(national.substr(0, 2))) ? 2 : 3;
-    return canonical(head, national.substr(0, areaLength), national.substr(areaLength));
+    std::string area(marker);
+    area.append(national.substr(0, areaLength));
+    return canonical(CALLING_CODE, area, national.substr(areaLength));
 }
 
 bool KesCNP_52::place(std::string_view number, KesDialRulesItem* rules, std::string& result) {
@@ -65,26 +66,26 @@ bool KesCNP_52::place(std::string_view number, KesDialRulesItem* rules, std::str
         return false;
     for (std::string_view mobilePrefix : MOBILE_PREFIXES)
         if (startsWith(number, mobilePrefix) && isNationalNumber(number.substr(mobilePrefix.size()))) {
-            result = placeNationalNumber(MOBILE_HEAD, number.substr(mobilePrefix.size()));
+            result = placeNationalNumber(MOBILE_MARKER, number.substr(mobilePrefix.size()));
             return true;
         }
     bool withNationalPrefix = startsWith(number, NATIONAL_PREFIX);
     std::string_view rest = withNationalPrefix ? number.substr(NATIONAL_PREFIX.size()) : number;
     if (isNationalNumber(rest)) {
-        result = placeNationalNumber(HEAD, rest);
+        result = placeNationalNumber("", rest);
         return true;
     }
     // The international mobile form "+52 1 ..." reaches the plan as the mobile marker and the
     // national number, behind the national prefix when the dialing rules give one.
     if (startsWith(rest, MOBILE_MARKER) && isNationalNumber(rest.substr(MOBILE_MARKER.size()))) {
-        result = placeNationalNumber(MOBILE_HEAD, rest.substr(MOBILE_MARKER.size()));
+        result = placeNationalNumber(MOBILE_MARKER, rest.substr(MOBILE_MARKER.size()));
         return true;
     }
     // A local number takes the installation's area code only where the two make ten digits.
     if (withNationalPrefix || !beginsLikeANumber(rest) ||
         rules->getAreaCode().size() + rest.size() != NATIONAL_LENGTH)
         return false;
-    return completeWithOwnAreaCode(HEAD, rest, rules, result);
+    return completeWithOwnAreaCode(CALLING_CODE, rest, rules, result);
 }
 
 std::string KesCNP_52::dlr_Country_MakeCanonicalNumber(std::string number, KesDialRulesItem* rules) {

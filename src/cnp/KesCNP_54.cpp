@@ -127,7 +127,7 @@ std::string KesCNP_54::dlr_Country_MakeCanonicalNumber(std::string number, KesDi
             logger->debug("DlrArgentinaMakeCanonicalNumber: not possible to strip the number");
         return number;
     }
-    std::string result = canonical(split.mobile ? "+54 9 (" : "+54 (", split.area, split.number);
+    std::string result = canonical(split.mobile ? "54 9" : "54", split.area, split.number);
     if (Logger::m_Traces)
         logger->debug("DlrArgentinaMakeCanonicalNumber: strCanPhoneNumber=" + result);
     return result;

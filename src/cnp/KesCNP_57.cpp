@@ -23,17 +23,17 @@ std::string canonical(std::string_view number, KesDialRulesItem* rules) {
     if (n == 7) {
         // No check that the installation has an area code: an empty one gives "+57 () ...".
         std::string own = rules->getAreaCode();
-        return canonicalNumber("57", own, number);
+        return CanonicalNumber::write("57", own, number);
     }
     if (n < 10 || number[0] != '0')
         return std::string();
     // After the national prefix: "3" and the mobile prefix, or a one-digit carrier and the area
     // code (ten characters), or a three-digit carrier code and the area code (longer numbers).
     if (number[1] == '3')
-        return canonicalNumber("57", number.substr(2, 3), number.substr(5));
+        return CanonicalNumber::write("57", number.substr(2, 3), number.substr(5));
     if (n == 10)
-        return canonicalNumber("57", number.substr(2, 1), number.substr(3));
-    return canonicalNumber("57", number.substr(4, 1), number.substr(5));
+        return CanonicalNumber::write("57", number.substr(2, 1), number.substr(3));
+    return CanonicalNumber::write("57", number.substr(4, 1), number.substr(5));
 }
 
 } // namespace

@@ -20,7 +20,7 @@ namespace {
 const KesAreaCodePlan::PlanFile PLAN_FILE = {"61", "No specific configuration file for Australia",
                                              "No specific dialing rules configuration file"};
 
-const char* const HEAD = "+61 (";
+const char* const CALLING_CODE = "61";
 const std::size_t NATIONAL_LENGTH = 10;
 const std::size_t LOCAL_LENGTH = 8;
 
@@ -28,12 +28,12 @@ const std::size_t LOCAL_LENGTH = 8;
 struct Service {
     std::size_t length;
     std::string_view prefix;
-    std::string_view head;
+    std::string_view lead; // what stands between "+" and the rest of the number
 };
 const Service SERVICES[] = {
-    {10, "1300", "+61 1300 "},
-    {10, "1800", "+61 1800 "},
-    {6, "13", "+61 13 "},
+    {10, "1300", "61 1300"},
+    {10, "1800", "61 1800"},
+    {6, "13", "61 13"},
 };
 
 } // namespace
@@ -48,16 +48,16 @@ std::string KesCNP_61::dlr_Country_MakeCanonicalNumber(std::string number, KesDi
     std::string result;
     std::string_view digits = number;
     if (digits.size() == NATIONAL_LENGTH && digits[0] == '0') {
-        result =
-            placeAtAreaCode(HEAD, digits.substr(1), UnknownAreaForm::NationalPrefixInParentheses, logger);
+        result = placeAtAreaCode(CALLING_CODE, digits.substr(1), UnknownAreaForm::NationalPrefixInParentheses,
+                                 logger);
     } else if (digits.size() == LOCAL_LENGTH) {
-        completeWithOwnAreaCode(HEAD, digits, rules, result);
+        completeWithOwnAreaCode(CALLING_CODE, digits, rules, result);
     } else {
         for (const Service& service : SERVICES)
             if (digits.size() == service.length &&
                 digits.substr(0, service.prefix.size()) == service.prefix) {
-                result.reserve(service.head.size() + digits.size() - service.prefix.size());
-                result.append(service.head).append(digits.substr(service.prefix.size()));
+                result =
+                    CanonicalNumber::writeWithoutArea(service.lead, digits.substr(service.prefix.size()));
                 break;
             }
     }

@@ -68,7 +68,7 @@ std::string localCanonical(std::string_view number, KesDialRulesItem* rules) {
         area.remove_prefix(1);
     if (!isGeographicAreaCode(area))
         return std::string();
-    return canonicalNumber("64", area, number);
+    return CanonicalNumber::write("64", area, number);
 }
 
 // The canonical form of a national or local number, or "" when no range holds it.
@@ -80,7 +80,8 @@ std::string canonical(std::string_view number, KesDialRulesItem* rules) {
             continue;
         if (number.size() < range.shortest || number.size() > range.longest)
             return std::string();
-        return canonicalNumber("64", number.substr(1, range.codeLength), number.substr(1 + range.codeLength));
+        return CanonicalNumber::write("64", number.substr(1, range.codeLength),
+                                      number.substr(1 + range.codeLength));
     }
     return std::string();
 }

@@ -16,7 +16,7 @@ namespace {
 
 // The national prefix is dropped and the three-digit area code goes in the parentheses.
 std::string russianCanonical(std::string_view national) {
-    return canonicalNumber("7", national.substr(1, 3), national.substr(4));
+    return CanonicalNumber::write("7", national.substr(1, 3), national.substr(4));
 }
 
 // Length alone decides: a ten-character number beginning with the prefix is completed too.

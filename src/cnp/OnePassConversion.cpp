@@ -32,12 +32,12 @@ std::string KesAreaCodePlan::convertInOnePass(const OnePassRules& plan, const st
     std::string result;
     if (number[0] != '0') {
         if (!localRuleApplies(plan.localRule, number[0]) ||
-            !completeWithOwnAreaCode(plan.head, number, rules, result))
+            !completeWithOwnAreaCode(plan.callingCode, number, rules, result))
             result = number;
     } else {
         // Only one national prefix is taken off: an international "00" leaves its second '0'.
-        result =
-            placeAtAreaCode(plan.head, std::string_view(number).substr(1), plan.unknownAreaForm, planLogger);
+        result = placeAtAreaCode(plan.callingCode, std::string_view(number).substr(1), plan.unknownAreaForm,
+                                 planLogger);
     }
     if (Logger::m_Traces)
         planLogger->debug(plan.closingTrace + result + "'");

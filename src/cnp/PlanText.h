@@ -1,10 +1,10 @@
 #ifndef NUMBERING_CNP_PLANTEXT_H
 #define NUMBERING_CNP_PLANTEXT_H
 
-// The traces the country plans write; their text tests and the canonical-number builder are the
-// shared ones of common/NumberText.h.
+// The traces the country plans write; their text tests and the writer of the canonical form are the
+// shared ones of common/.
 
-#include "common/NumberText.h"
+#include "common/CanonicalNumber.h"
 #include "numbering/KesDialRulesItem.h"
 #include "numbering/Logger.h"
 

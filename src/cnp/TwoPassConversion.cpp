@@ -31,14 +31,14 @@ bool KesAreaCodePlan::placeNational(const TwoPassRules& plan, std::string_view w
     if (areaLength == 0) {
         if (plan.unknownAreaCode == UnknownAreaCode::OwnAreaCodeInFront) {
             // Deliberately the whole national number behind the own area code, even an empty one.
-            result = canonical(plan.head, rules->getAreaCode(), national);
+            result = canonical(plan.callingCode, rules->getAreaCode(), national);
             return true;
         }
         areaLength = std::min<std::size_t>(4, n);
     }
     if (n - areaLength < SHORTEST)
         return false;
-    result = canonical(plan.head, national.substr(0, areaLength), national.substr(areaLength));
+    result = canonical(plan.callingCode, national.substr(0, areaLength), national.substr(areaLength));
     return true;
 }
 
@@ -63,7 +63,7 @@ std::string KesAreaCodePlan::convertInTwoPasses(const TwoPassRules& plan, const 
         if (current[0] == '0')
             return placeNational(plan, current, rules, planLogger, result) ? result : number;
     }
-    return completeWithOwnAreaCode(plan.head, current, rules, result) ? result : number;
+    return completeWithOwnAreaCode(plan.callingCode, current, rules, result) ? result : number;
 }
 
 } // namespace numbering

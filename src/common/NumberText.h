@@ -8,7 +8,6 @@
 #include <Poco/Ascii.h>
 #include <Poco/String.h>
 
-#include <cstdint>
 #include <string>
 #include <string_view>
 
@@ -35,6 +34,13 @@ inline bool isOneOf(char c, const std::string& set) {
     return false;
 }
 
+/// Appends the digits of `text` to `out`, leaving out every other character.
+inline void appendDigits(std::string_view text, std::string& out) {
+    for (char c : text)
+        if (isDigit(c))
+            out += c;
+}
+
 /// True when `text` begins with `prefix`; every text begins with an empty prefix.
 inline bool startsWith(std::string_view text, std::string_view prefix) {
     return text.compare(0, prefix.size(), prefix) == 0;
@@ -57,23 +63,6 @@ inline std::string_view::size_type indexOf(std::string_view text, char c,
 inline bool contains(std::string_view text, std::string_view part) {
     return text.find(part) != std::string_view::npos;
 }
-
-/// One of the facade's character sets, read once for a whole number: then membership is one table
-/// look-up per character.
-class CharacterSet {
-public:
-    explicit CharacterSet(const std::string& characters) {
-        for (char c : characters)
-            member[static_cast<unsigned char>(c) / 64] |= std::uint64_t(1)
-                                                          << (static_cast<unsigned char>(c) % 64);
-    }
-    bool contains(char c) const {
-        return (member[static_cast<unsigned char>(c) / 64] >> (static_cast<unsigned char>(c) % 64)) & 1;
-    }
-
-private:
-    std::uint64_t member[4] = {};
-};
 
 /// The first character of `text`. An empty text raises the std::out_of_range of std::string::at,
 /// which the conversions report as their failure.
@@ -138,16 +127,6 @@ inline std::string_view between(std::string_view text, std::string_view::size_ty
     if (begin >= text.size() || end <= begin)
         return std::string_view();
     return text.substr(begin, end - begin);
-}
-
-/// "+" countryNumber " (" area ") " subscriber, built in one allocation. An empty area still has
-/// its parentheses.
-inline std::string canonicalNumber(std::string_view countryNumber, std::string_view area,
-                                   std::string_view subscriber) {
-    std::string result;
-    result.reserve(countryNumber.size() + area.size() + subscriber.size() + 5);
-    result.append("+").append(countryNumber).append(" (").append(area).append(") ").append(subscriber);
-    return result;
 }
 
 } // namespace numbering

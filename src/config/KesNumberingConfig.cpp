@@ -5,6 +5,7 @@
 #include "Store.h"
 #include "lifecycle/Conversion.h"
 #include "lifecycle/TextKeyMap.h"
+#include "numbering/KesDialRulesItem.h"
 #include "numbering/Logger.h"
 #include "numbering/number_format_exception.h"
 
@@ -60,7 +61,7 @@ bool loadEachKey(const Generation& generation, Logger* logger, const std::string
 
 } // namespace
 
-KesNumberingConfig& storeOf(Generation& generation) {
+KesNumberingConfig& loadStoreOf(Generation& generation) {
     return generation.store.getOrMake([&generation] { return new KesNumberingConfig(generation); },
                                       [&generation] { return generation.isCurrent(); });
 }
@@ -124,8 +125,16 @@ bool KesNumberingConfig::loadDialingRules() {
             new KesCountryRuleItem(field[0], field[1], field[2], field[3], field[4], field[5]));
         // Insertion never replaces: of two rows for the same key, the first in key order stays.
         KesCountryRuleItem* stored = countryRules->insert(code, rule).get();
-        if (row.primary())
-            countryCodeByNumber->insert(row.callingCode(), Country{code, stored});
+        if (row.primary()) {
+            // What KesDialRulesItem(code, "", 0, "", 0, "") makes, without asking the configuration
+            // in use, which a reload has not replaced yet.
+            std::unique_ptr<KesDialRulesItem> nationalRules;
+            if (code.size() == 2) {
+                nationalRules.reset(new KesDialRulesItem);
+                nationalRules->countryId = code;
+            }
+            countryCodeByNumber->insert(row.callingCode(), Country{code, stored, std::move(nationalRules)});
+        }
         countryCodeByName->insert(row.name(), code);
     };
     return loadEachKey(generation, logger, "dialingrules", NO_DIALING_RULES_FILE, "loadDialingRules",
@@ -268,8 +277,12 @@ KesCountryRuleItem* KesNumberingConfig::findCountryRule(std::string_view code) c
     return rule == nullptr ? nullptr : rule->get();
 }
 
+const KesNumberingConfig::Country* KesNumberingConfig::findCountry(std::string_view number) const {
+    return number.empty() ? nullptr : countryCodeByNumber->find(number);
+}
+
 const std::string* KesNumberingConfig::findCountryCode(std::string_view number) const {
-    const Country* country = number.empty() ? nullptr : countryCodeByNumber->find(number);
+    const Country* country = findCountry(number);
     return country == nullptr ? nullptr : &country->code;
 }
 

@@ -1,5 +1,6 @@
 #include "numbering/KesDialable.h"
 
+#include "common/NumberText.h"
 #include "config/Store.h"
 #include "lifecycle/Conversion.h"
 
@@ -71,10 +72,10 @@ std::string KesDialable::applyRule(const std::string& rule, const std::string& p
     std::string result = number;
     if (rule.empty())
         return result;
-    bool withArea = rule.find('F') != std::string::npos;
+    bool withArea = indexOf(rule, 'F') != std::string_view::npos;
     if (withArea)
         result.insert(0, areaNatPfx);
-    if (withArea || rule.find('I') != std::string::npos)
+    if (withArea || indexOf(rule, 'I') != std::string_view::npos)
         mergePrefix(result, prefix);
     return result;
 }
@@ -82,7 +83,7 @@ std::string KesDialable::applyRule(const std::string& rule, const std::string& p
 std::string KesDialable::makeLongDistDialableNumber(std::string& areaNatPfx, std::string& number,
                                                     KesCountryRuleItem* countryRule, KesDialRulesItem*) {
     std::string result =
-        applyRule(countryRule->getLongDistRule(), countryRule->getLongDistPrefix(), areaNatPfx, number);
+        applyRule(countryRule->longDistRuleText(), countryRule->longDistPrefixText(), areaNatPfx, number);
     if (Logger::m_Traces)
         logger->debug("makeLongDistDialableNumber() AreaNatPfx: '" + areaNatPfx + "' dest: " + number +
                       " result: " + result);

@@ -1,8 +1,8 @@
 #include "numbering/KesNumberingRules.h"
 
-#include "CanonicalParts.h"
 #include "ConversionGuard.h"
-#include "common/NumberText.h"
+#include "FacadeInternals.h"
+#include "common/CanonicalNumber.h"
 #include "config/Store.h"
 #include "lifecycle/Conversion.h"
 #include "numbering/KesClid.h"
@@ -29,10 +29,14 @@ KesClid* KesNumberingRules::makeClid(KesDialRulesItem* myKesDialRulesItem, std::
     if (can[0] != '+')
         return new KesClid(std::move(can), &KesEnumOrigin::PRIVATE_1);
 
-    const std::string_view cn = countryNumberOf(can);
-    const std::string_view area = areaCodeOrNatPrefixOf(can);
+    traceExtract("extractCountryNumber", can);
+    traceExtract("extractAreaCodeOrNatPrefix", can);
+    traceExtract("extractExtension", can);
+    const CanonicalNumber parts = CanonicalNumber::read(can);
+    const std::string_view cn = parts.country;
+    const std::string_view area = parts.area;
     std::string sub;
-    appendExtensionOf(can, sub);
+    parts.appendSubscriberDigits(sub);
 
     KesCountryRuleItem* ownRule =
         storeOf(conversion.generation()).findCountryRule(myKesDialRulesItem->getCountryId());

@@ -1,9 +1,8 @@
 #include "numbering/KesNumberingRules.h"
 
-#include "CanonicalParts.h"
 #include "ConversionGuard.h"
 #include "FacadeInternals.h"
-#include "common/NumberText.h"
+#include "common/CanonicalNumber.h"
 #include "config/Store.h"
 #include "lifecycle/Conversion.h"
 #include "numbering/KesCountryRuleItem.h"
@@ -21,11 +20,11 @@ std::string KesNumberingRules::generateDefaultCanonicalNumber(std::string strPho
 }
 
 std::string defaultCanonicalNumber(Generation& generation, std::string strPhoneNumber,
-                                   const std::string& strCountryCode, std::string_view strAreaCode) {
+                                   std::string_view strCountryCode, std::string_view strAreaCode) {
     Logger* logger = KesNumberingRules::logger;
     if (Logger::m_Traces)
-        logger->debug("generateDefaultCanonicalNumber('" + strPhoneNumber + "', '" + strCountryCode + "', '" +
-                      std::string(strAreaCode) + "')");
+        logger->debug("generateDefaultCanonicalNumber('" + strPhoneNumber + "', '" +
+                      std::string(strCountryCode) + "', '" + std::string(strAreaCode) + "')");
     std::string result;
     KesCountryRuleItem* rule = strPhoneNumber.empty() || strCountryCode.empty()
                                    ? nullptr
@@ -50,13 +49,9 @@ std::string defaultCanonicalNumber(Generation& generation, std::string strPhoneN
             strAreaCode = ldp;
         }
         const std::string& countryNumber = rule->countryNumberText();
-        if (!strAreaCode.empty()) {
-            result = canonicalNumber(countryNumber, strAreaCode, work);
-        } else {
-            // Neither an area code nor a national prefix: "+47 12345678".
-            result.reserve(countryNumber.size() + work.size() + 2);
-            result.append("+").append(countryNumber).append(" ").append(work);
-        }
+        // Neither an area code nor a national prefix: "+47 12345678".
+        result = strAreaCode.empty() ? CanonicalNumber::writeWithoutArea(countryNumber, work)
+                                     : CanonicalNumber::write(countryNumber, strAreaCode, work);
     }
     if (Logger::m_Traces)
         logger->debug("generateDefaultCanonicalNumber result : '" + result + "'");
@@ -84,8 +79,7 @@ std::string formatCanonical(Generation& generation, const std::string& strCanPho
     Logger* logger = KesNumberingRules::logger;
     if (Logger::m_Traces)
         logger->debug("formatCanonicalNumber('" + strCanPhoneNumber + "', '" + strPattern + "')");
-    const std::string::size_type open = indexOf(strCanPhoneNumber, '(');
-    if (open == std::string::npos || indexOf(strCanPhoneNumber, ')') == std::string::npos) {
+    if (!CanonicalNumber::hasParentheses(strCanPhoneNumber)) {
         if (Logger::m_Traces)
             logger->debug("Can't apply pattern to number : '" + strCanPhoneNumber + "'");
         return strCanPhoneNumber;
@@ -99,10 +93,12 @@ std::string formatCanonical(Generation& generation, const std::string& strCanPho
                 // number: the shipped configuration has a mask for every calling code.
                 static const std::string noMask;
                 const std::string* mask =
-                    storeOf(generation).findDefaultPattern(trimmed(between(strCanPhoneNumber, 1, open)));
+                    storeOf(generation)
+                        .findDefaultPattern(
+                            trimmed(between(strCanPhoneNumber, 1, indexOf(strCanPhoneNumber, '('))));
                 pattern = mask == nullptr ? &noMask : mask;
             }
-            const CanonicalParts parts = readCanonical(strCanPhoneNumber, CanonicalReading::AtSeparators);
+            const CanonicalNumber parts = CanonicalNumber::readAtSeparators(strCanPhoneNumber);
             std::string_view::size_type placed = 0; // characters of the subscriber part passed
             TextCollector result;
             for (char c : *pattern) {

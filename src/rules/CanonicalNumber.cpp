@@ -1,10 +1,9 @@
 #include "numbering/KesNumberingRules.h"
 
-#include "CanonicalParts.h"
 #include "ConversionGuard.h"
 #include "FacadeInternals.h"
 #include "cnp/PlanCache.h"
-#include "common/NumberText.h"
+#include "common/CanonicalNumber.h"
 #include "config/Store.h"
 #include "lifecycle/Conversion.h"
 #include "numbering/KesCNP.h"
@@ -16,7 +15,6 @@
 #include "numbering/Logger.h"
 
 #include <algorithm>
-#include <optional>
 #include <stdexcept>
 
 // makeCanonicalNumber in three steps: tell what kind of number was typed (international, national
@@ -27,29 +25,29 @@ namespace numbering {
 
 namespace {
 
-/// What kind of number a conversion holds, and the number as the country that reads it dials it.
-struct NumberKind {
-    std::string number;      // the number to put in canonical form
-    std::string countryCode; // the country it belongs to, "" when unknown
-    bool known = false;      // recognised as international or national
-    Generation& generation;  // the configuration the conversion pinned
-    KesDialRulesItem* installation;
-    /// The rules of another country's national number: KesDialRulesItem(countryCode, "", 0, "", 0,
-    /// ""), no outside-line prefix and no area code. A code the store gave is valid, as the
-    /// constructor requires. Made for every such number: keeping the last ones per thread saved
-    /// less than half a percent of a conversion's instructions.
-    std::optional<KesDialRulesItem> destination;
+/// What the user typed, read: the number to put in canonical form, the country it belongs to and
+/// the rules that read it. Filled by one of the two readers below.
+struct TypedNumber {
+    std::string number;           // the number to put in canonical form
+    std::string_view countryCode; // the country it belongs to, "" when unknown
+    bool known = false;           // recognised as international or national
+    KesDialRulesItem* rules;      // the installation's, or the destination country's
+    std::string ownCountry;       // the installation's country, when countryCode is that
 
-    NumberKind(Generation& pinned, KesDialRulesItem* rules) : generation(pinned), installation(rules) {}
+    explicit TypedNumber(KesDialRulesItem* installation) : rules(installation) {}
+    TypedNumber(const TypedNumber&) = delete;
+    TypedNumber& operator=(const TypedNumber&) = delete;
 
-    /// The rules that read the number: the installation's, or the destination country's.
-    KesDialRulesItem* rules() { return destination ? &*destination : installation; }
-
-    /// From here on the number is a national number of `code`, read with that country's rules.
-    void takeDestination(const std::string& code) {
-        destination.emplace(code, "", 0, "", 0, "");
-        countryCode = code;
+    /// From here on the number is `national`, a national number of `country` read with that
+    /// country's rules.
+    void takeDestination(const KesNumberingConfig::Country& country, std::string national) {
+        // The store made the rules once for every country but one whose code they refuse.
+        if (country.nationalRules == nullptr)
+            KesDialRulesItem(country.code, "", 0, "", 0, ""); // throws, as the rules always did
+        number = std::move(national);
+        countryCode = country.code;
         known = true;
+        rules = country.nationalRules.get();
     }
 };
 
@@ -86,30 +84,32 @@ std::string cleanNationalNumber(std::string_view strValid, bool& serviceCode) {
 /// A number dialled with the international prefix: finds the destination country behind it and any
 /// operator prefix. Calling back into the own country keeps the operator prefix, since it is dialled
 /// nationally as well; calling another country drops it.
-void readInternationalPrefix(NumberKind& kind, const std::string& strPhoneNumber, const std::string& digits,
-                             const std::string& internatPfx, KesCountryRuleItem* countryRule) {
-    KesNumberingConfig* config = &storeOf(kind.generation);
+bool readInternationalPrefix(Generation& generation, TypedNumber& kind, const std::string& strPhoneNumber,
+                             const std::string& digits, const std::string& internatPfx,
+                             KesCountryRuleItem* countryRule) {
+    KesNumberingConfig& config = storeOf(generation);
     Logger* logger = KesNumberingRules::logger;
-    KesDialable* dialable = requireDialable(kind.generation, countryRule->countryNumberText());
+    KesDialable* dialable = requireDialable(generation, countryRule->countryNumberText());
     const std::string opPrefix = dialable->extractOperatorPrefix(digits.substr(internatPfx.size()));
-    const std::string::size_type skip = internatPfx.size() + opPrefix.size();
-    const std::string afterPrefixes = digits.substr(skip);
-    const std::string_view countryNumber(afterPrefixes.data(), config->countryNumberLength(afterPrefixes));
-    const std::string* destCode = config->findCountryCode(countryNumber);
-    if (destCode == nullptr) {
+    const std::string_view afterPrefixes =
+        std::string_view(digits).substr(internatPfx.size() + opPrefix.size());
+    const std::string_view countryNumber = afterPrefixes.substr(0, config.countryNumberLength(afterPrefixes));
+    const KesNumberingConfig::Country* destination = config.findCountry(countryNumber);
+    if (destination == nullptr) {
         if (Logger::m_Traces)
             logger->debug("International number detected but no country code was found '" + strPhoneNumber +
                           "'");
-        return;
+        return false;
     }
     if (Logger::m_Traces)
-        logger->debug("International number detected : '" + digits + "' with CountryCode '" + *destCode +
-                      "'");
-    kind.number = requireCountryRule(config, *destCode)->longDistPrefixText();
-    if (*destCode == kind.countryCode)
-        kind.number += opPrefix;
-    kind.number.append(afterPrefixes, countryNumber.size(), std::string::npos);
-    kind.takeDestination(*destCode);
+        logger->debug("International number detected : '" + digits + "' with CountryCode '" +
+                      destination->code + "'");
+    std::string national = requireCountryRule(&config, destination->code)->longDistPrefixText();
+    if (destination->code == kind.countryCode)
+        national += opPrefix;
+    national.append(afterPrefixes.substr(countryNumber.size()));
+    kind.takeDestination(*destination, std::move(national));
+    return true;
 }
 
 /// A number dialled with the national prefix, or in a country that writes local and national
@@ -138,22 +138,24 @@ bool isNationalByPrefix(const std::string& strPhoneNumber, KesCountryRuleItem* c
 
 /// A number in international form: its calling code names the country, and the rest is written as
 /// that country dials it nationally, so that the country's plan can take it from there.
-void readInternationalForm(NumberKind& kind, std::string_view strValid) {
-    KesNumberingConfig* config = &storeOf(kind.generation);
-    std::string_view countryNumber = countryNumberOf(strValid);
-    const std::string* countryCode;
+void readInternationalForm(Generation& generation, TypedNumber& kind, const CanonicalNumber& typed,
+                           std::string_view strValid) {
+    KesNumberingConfig& config = storeOf(generation);
+    traceExtract("extractCountryNumber", strValid);
+    std::string_view countryNumber = typed.country;
+    const KesNumberingConfig::Country* country;
     if (countryNumber.empty()) {
-        countryNumber = strValid.substr(1, config->countryNumberLength(strValid.substr(1)));
-        countryCode = config->findCountryCode(countryNumber);
+        countryNumber = strValid.substr(1, config.countryNumberLength(strValid.substr(1)));
+        country = config.findCountry(countryNumber);
     } else {
-        countryCode = config->findCountryCode(countryNumber);
+        country = config.findCountry(countryNumber);
         // "+33123456789": the run of digits is more than the calling code.
-        if (countryCode == nullptr) {
-            countryNumber = countryNumber.substr(0, config->countryNumberLength(countryNumber));
-            countryCode = config->findCountryCode(countryNumber);
+        if (country == nullptr) {
+            countryNumber = countryNumber.substr(0, config.countryNumberLength(countryNumber));
+            country = config.findCountry(countryNumber);
         }
     }
-    if (countryCode == nullptr) {
+    if (country == nullptr) {
         if (Logger::m_Traces)
             KesNumberingRules::logger->debug("No country code found for country number '" +
                                              std::string(countryNumber) + "'");
@@ -161,11 +163,17 @@ void readInternationalForm(NumberKind& kind, std::string_view strValid) {
     }
     std::string national;
     appendDigits(strValid.substr(countryNumber.size() + 1), national);
-    kind.takeDestination(*countryCode);
-    KesCountryRuleItem* countryRule = requireCountryRule(config, kind.countryCode);
+    kind.takeDestination(*country, std::string());
+    KesCountryRuleItem* countryRule = requireCountryRule(&config, country->code);
     std::string noArea;
-    kind.number = requireDialable(kind.generation, std::string(countryNumber))
-                      ->makeLongDistDialableNumber(noArea, national, countryRule, kind.rules());
+    kind.number = requireDialable(generation, countryNumber)
+                      ->makeLongDistDialableNumber(noArea, national, countryRule, kind.rules);
+}
+
+/// The line checkPhoneNumber traces; call only when tracing.
+void traceChecked(std::string_view strPhoneNumber, const std::string& result) {
+    KesNumberingRules::logger->debug("checkPhoneNumber('" + std::string(strPhoneNumber) + "') returns '" +
+                                     result + "'");
 }
 
 /// checkPhoneNumber: the digits and service characters of the number, or "" when it holds another
@@ -180,36 +188,35 @@ std::string phoneCharactersOf(std::string_view strPhoneNumber) {
     else if (collectPhoneCharacters(strPhoneNumber, kept, serviceCode))
         result = kept.str();
     if (Logger::m_Traces)
-        KesNumberingRules::logger->debug("checkPhoneNumber('" + std::string(strPhoneNumber) + "') returns '" +
-                                         result + "'");
+        traceChecked(strPhoneNumber, result);
     return result;
 }
 
-/// Tells what kind of number `typed` (as the user typed it, trimmed) is, with `strValid` its
-/// validated form; false for a service code, which is never made canonical: `kind.number` holds it.
-bool tellKind(NumberKind& kind, const std::string& typed, std::string_view strValid, bool internationalForm) {
-    if (internationalForm) {
-        readInternationalForm(kind, strValid);
-        return true;
-    }
+/// A number not in international form (`typed` as the user typed it, trimmed, with `strValid` its
+/// validated form): the installation's own, or one dialled with the international prefix. False
+/// for a service code, which is never made canonical: `kind.number` holds it.
+bool readNationalForm(Generation& generation, TypedNumber& kind, const std::string& typed,
+                      std::string_view strValid) {
     bool serviceCode = false;
     std::string digits = cleanNationalNumber(strValid, serviceCode);
     if (serviceCode) {
         kind.number = std::move(digits);
         return false;
     }
-    kind.countryCode = kind.installation->getCountryId();
-    KesCountryRuleItem* countryRule = requireCountryRule(&storeOf(kind.generation), kind.countryCode);
+    KesDialRulesItem* installation = kind.rules;
+    kind.ownCountry = installation->getCountryId();
+    kind.countryCode = kind.ownCountry;
+    KesCountryRuleItem* countryRule = requireCountryRule(&storeOf(generation), kind.countryCode);
     const std::string& internatPfx = countryRule->internatPfxText();
+    bool abroad = false; // the international prefix led to another country's national number
     // The prefix tests look at the number as typed, not at its digits.
-    if (outsideLinePrefixNeeded(*kind.installation, typed)) {
+    if (outsideLinePrefixNeeded(*installation, typed)) {
         if (startsWith(typed, internatPfx))
-            readInternationalPrefix(kind, typed, digits, internatPfx, countryRule);
+            abroad = readInternationalPrefix(generation, kind, typed, digits, internatPfx, countryRule);
         else
             kind.known = isNationalByPrefix(typed, countryRule);
     }
-    // Unless the international prefix led to another country's national number.
-    if (!kind.destination)
+    if (!abroad)
         kind.number = std::move(digits);
     return true;
 }
@@ -218,29 +225,36 @@ bool tellKind(NumberKind& kind, const std::string& typed, std::string_view strVa
 /// part of a phone number, or one holding "***", stays as it is.
 std::string canonicalByPlan(KesCNP* plan, std::string number, KesDialRulesItem* rules) {
     Logger* logger = KesNumberingRules::logger;
-    std::string cleaned = phoneCharactersOf(number);
-    if (cleaned.empty()) {
-        if (Logger::m_Traces)
-            logger->debug("Altered Source Number : '" + number + "'");
-        return number;
+    if (!number.empty() && allDigits(number)) {
+        if (Logger::m_Traces) // the usual case: the number is its own phone characters
+            traceChecked(number, number);
+    } else {
+        std::string cleaned = phoneCharactersOf(number);
+        if (cleaned.empty()) {
+            if (Logger::m_Traces)
+                logger->debug("Altered Source Number : '" + number + "'");
+            return number;
+        }
+        if (contains(cleaned, "***"))
+            return cleaned;
+        number = std::move(cleaned);
     }
-    if (contains(cleaned, "***"))
-        return cleaned;
     if (Logger::m_Traces)
-        logger->debug("Source number to be altered : '" + cleaned + "'");
-    return plan->dlr_Country_MakeCanonicalNumber(std::move(cleaned), rules);
+        logger->debug("Source number to be altered : '" + number + "'");
+    return plan->dlr_Country_MakeCanonicalNumber(std::move(number), rules);
 }
 
 /// The generic rules write an international or national number in canonical form; a number that
 /// may be local stays as it is.
-std::string canonicalByGenericRules(NumberKind& kind, std::string_view strAreaCode, bool internationalForm) {
+std::string canonicalByGenericRules(Generation& generation, TypedNumber& kind, std::string_view strAreaCode,
+                                    bool internationalForm) {
     Logger* logger = KesNumberingRules::logger;
     if (Logger::m_Traces)
-        logger->debug("No special format defined for country " + kind.countryCode);
+        logger->debug("No special format defined for country " + std::string(kind.countryCode));
     if (internationalForm)
-        return defaultCanonicalNumber(kind.generation, std::move(kind.number), kind.countryCode, strAreaCode);
+        return defaultCanonicalNumber(generation, std::move(kind.number), kind.countryCode, strAreaCode);
     if (kind.known)
-        return defaultCanonicalNumber(kind.generation, std::move(kind.number), kind.countryCode, "");
+        return defaultCanonicalNumber(generation, std::move(kind.number), kind.countryCode, "");
     if (Logger::m_Traces)
         logger->debug("Can't translate to a canonical phone number : we don't known if '" + kind.number +
                       "' is a local or national phone number");
@@ -250,13 +264,16 @@ std::string canonicalByGenericRules(NumberKind& kind, std::string_view strAreaCo
 /// The canonical form of the number `kind` holds. A number of no known country stays as validated;
 /// a local or exception number of the installation is left alone unless it carries the outside-line
 /// prefix or was written in international form.
-std::string canonicalForm(NumberKind& kind, std::string_view strValid, std::string_view strAreaCode,
-                          bool internationalForm) {
+std::string canonicalForm(Generation& generation, TypedNumber& kind, std::string_view strValid,
+                          std::string_view strAreaCode, bool internationalForm) {
     if (kind.countryCode.empty())
         return std::string(strValid);
-    KesCNP* plan = planCacheOf(kind.generation).getCNP(kind.countryCode);
-    KesDialRulesItem* rules = kind.rules();
-    if ((rules->isLocalNumber(kind.number) || rules->isExceptionNumber(kind.number)) &&
+    KesCNP* plan = planOf(generation, kind.countryCode);
+    KesDialRulesItem* rules = kind.rules;
+    // A number in international form is never left alone: the rules' tests are then asked only for
+    // the lines they trace.
+    if ((!internationalForm || Logger::m_Traces) &&
+        (rules->isLocalNumber(kind.number) || rules->isExceptionNumber(kind.number)) &&
         !startsWith(kind.number, rules->getExtPrefix()) && !internationalForm) {
         if (Logger::m_Traces)
             KesNumberingRules::logger->debug("Nothing to do for" + kind.number);
@@ -264,7 +281,7 @@ std::string canonicalForm(NumberKind& kind, std::string_view strValid, std::stri
     }
     if (plan != nullptr)
         return canonicalByPlan(plan, std::move(kind.number), rules);
-    return canonicalByGenericRules(kind, strAreaCode, internationalForm);
+    return canonicalByGenericRules(generation, kind, strAreaCode, internationalForm);
 }
 
 } // namespace
@@ -295,17 +312,21 @@ std::string KesNumberingRules::makeCanonicalNumber(KesDialRulesItem* myKesDialRu
         std::string layout;
         const std::string_view strValid = validNumber(strPhoneNumber, layout);
         const bool internationalForm = firstCharacter(strValid) == '+';
+        Generation& generation = conversion.generation();
         // Only a number in international form keeps its area code; the others read it for the trace
         // the conversion has always written.
-        const std::string_view strAreaCode =
-            internationalForm || Logger::m_Traces ? areaCodeOrNatPrefixOf(strValid) : std::string_view();
+        traceExtract("extractAreaCodeOrNatPrefix", strValid);
+        const CanonicalNumber typed = CanonicalNumber::read(strValid);
+        const std::string_view strAreaCode = internationalForm ? typed.area : std::string_view();
 
-        NumberKind kind(conversion.generation(), myKesDialRulesItem);
-        if (!tellKind(kind, strPhoneNumber, strValid, internationalForm))
+        TypedNumber kind(myKesDialRulesItem);
+        if (internationalForm)
+            readInternationalForm(generation, kind, typed, strValid);
+        else if (!readNationalForm(generation, kind, strPhoneNumber, strValid))
             return std::move(kind.number);
-        std::string canonical = canonicalForm(kind, strValid, strAreaCode, internationalForm);
+        std::string canonical = canonicalForm(generation, kind, strValid, strAreaCode, internationalForm);
         if (firstCharacter(canonical) == '+')
-            return formatCanonical(conversion.generation(), canonical, strPattern);
+            return formatCanonical(generation, canonical, strPattern);
         return canonical;
     };
     return guardConversion(convert, [&](const char* what) {

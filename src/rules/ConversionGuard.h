@@ -38,10 +38,11 @@ inline KesCountryRuleItem* requireCountryRule(KesNumberingConfig* config, std::s
 }
 
 /// The dialing strategy of `countryNumber` in `generation`; a row without a calling code has none.
-inline KesDialable* requireDialable(Generation& generation, const std::string& countryNumber) {
-    KesDialable* dialable = strategyCacheOf(generation).getDialable(countryNumber);
+inline KesDialable* requireDialable(Generation& generation, std::string_view countryNumber) {
+    KesDialable* dialable = dialableOf(generation, countryNumber);
     if (dialable == nullptr)
-        throw std::invalid_argument("no dialing strategy for country number '" + countryNumber + "'");
+        throw std::invalid_argument("no dialing strategy for country number '" + std::string(countryNumber) +
+                                    "'");
     return dialable;
 }
 

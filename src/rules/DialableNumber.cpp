@@ -1,9 +1,8 @@
 #include "numbering/KesNumberingRules.h"
 
-#include "CanonicalParts.h"
 #include "ConversionGuard.h"
 #include "FacadeInternals.h"
-#include "common/NumberText.h"
+#include "common/CanonicalNumber.h"
 #include "config/Store.h"
 #include "lifecycle/Conversion.h"
 #include "numbering/KesCountryRuleItem.h"
@@ -39,11 +38,12 @@ std::string KesNumberingRules::makeDialableNumber(KesDialRulesItem* myKesDialRul
         return strCanPhoneNumber;
 
     // "+49 (89) 123456": country "49", area or national prefix "89", subscriber "123456".
-    const CanonicalParts parts = readCanonical(strCanPhoneNumber, CanonicalReading::DigitRuns);
+    const CanonicalNumber parts =
+        CanonicalNumber::readDigitRuns(strCanPhoneNumber, KesNumberingConfig::MAX_PHONE_NUMBER_LENGTH);
     std::string country(parts.country);
     std::string areaNatPfx(parts.area);
     std::string number;
-    appendDigits(parts.subscriber, number);
+    parts.appendSubscriberDigits(number);
     if (Logger::m_Traces)
         logger->debug("Country : '" + country + "', Area/Nat Pfx : '" + areaNatPfx + "', Number : '" +
                       number + "'");

@@ -8,6 +8,7 @@
 #include "lifecycle/Generation.h"
 #include "numbering/KesDialRulesItem.h"
 #include "numbering/KesNumberingRules.h"
+#include "numbering/Logger.h"
 
 #include <string>
 #include <string_view>
@@ -24,6 +25,14 @@ inline bool isServiceCharacter(char c) {
     return isOneOf(c, KesNumberingRules::TELEPHONENUMBER_SPECIAL_CHARACTER);
 }
 
+/// The trace line of the extract operation `operation` ("extractCountryNumber"), which the
+/// conversions that read a part of a number its way write as well.
+void traceExtractLine(const char* operation, std::string_view canonical);
+inline void traceExtract(const char* operation, std::string_view canonical) {
+    if (Logger::m_Traces)
+        traceExtractLine(operation, canonical);
+}
+
 /// Whether the outside-line prefix goes in front of `number` under the installation's `rules`:
 /// internal extensions (shorter than the local number length) never take it, nor do the
 /// installation's exception numbers. A number exactly as long as a local number does.
@@ -35,7 +44,7 @@ inline bool outsideLinePrefixNeeded(KesDialRulesItem& rules, const std::string& 
 
 /// generateDefaultCanonicalNumber.
 std::string defaultCanonicalNumber(Generation& generation, std::string strPhoneNumber,
-                                   const std::string& strCountryCode, std::string_view strAreaCode);
+                                   std::string_view strCountryCode, std::string_view strAreaCode);
 
 /// formatCanonicalNumber.
 std::string formatCanonical(Generation& generation, const std::string& strCanPhoneNumber,

@@ -1,9 +1,8 @@
 #include "numbering/KesNumberingRules.h"
 
-#include "CanonicalParts.h"
 #include "ConversionGuard.h"
 #include "FacadeInternals.h"
-#include "common/NumberText.h"
+#include "common/CanonicalNumber.h"
 #include "config/Store.h"
 #include "lifecycle/Conversion.h"
 #include "numbering/KesCountryRuleItem.h"
@@ -33,8 +32,7 @@ std::string formatToGsm(Generation& generation, const std::string& strCanPhoneNu
     Logger* logger = KesNumberingRules::logger;
     if (Logger::m_Traces)
         logger->debug("formatToGSMCanonicalNumber('" + strCanPhoneNumber + "'");
-    const std::string::size_type open = indexOf(strCanPhoneNumber, '(');
-    if (open == std::string::npos || indexOf(strCanPhoneNumber, ')') == std::string::npos) {
+    if (!CanonicalNumber::hasParentheses(strCanPhoneNumber)) {
         if (Logger::m_Traces)
             logger->debug("Can't apply pattern to number : '" + strCanPhoneNumber + "'");
         return strCanPhoneNumber;
@@ -43,7 +41,7 @@ std::string formatToGsm(Generation& generation, const std::string& strCanPhoneNu
         return strCanPhoneNumber;
     return guardConversion(
         [&]() -> std::string {
-            const CanonicalParts parts = readCanonical(strCanPhoneNumber, CanonicalReading::AtSeparators);
+            const CanonicalNumber parts = CanonicalNumber::readAtSeparators(strCanPhoneNumber);
             std::string_view area = parts.area;
             KesCountryRuleItem* rule = storeOf(generation).findCountryRuleOfNumber(parts.country);
             // A national prefix in the parentheses is dropped, a real area code is kept.
@@ -55,9 +53,8 @@ std::string formatToGsm(Generation& generation, const std::string& strCanPhoneNu
             result.append(area);
             // The blanks and separators a display mask put into the subscriber part are skipped:
             // the GSM form is "+" and digits only.
-            const CharacterSet format(KesNumberingRules::TELEPHONENUMBER_FORMAT_CHARACTER);
             for (char c : parts.subscriber)
-                if (!format.contains(c))
+                if (!isFormatCharacter(c))
                     result.push(c);
             return result.str();
         },
