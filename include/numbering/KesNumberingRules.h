@@ -127,6 +127,25 @@ public:
     /// std::invalid_argument for a null item or an empty number escapes.
     virtual std::string makeCanonicalNumber(KesDialRulesItem* myKesDialRulesItem, std::string strPhoneNumber,
                                             std::string strPattern, bool withExternalPrefix);
+    /// For callers that convert numbers in bulk: makeCanonicalNumber(myKesDialRulesItem,
+    /// strPhoneNumber, strPattern, withExternalPrefix) appended to `out` (nothing when it gives "").
+    /// Once `out` and the thread's buffers have grown to the numbers' size, a conversion allocates
+    /// nothing. Same exceptions.
+    ///
+    /// @code
+    /// std::string line;
+    /// for (const std::string& number : numbers) {
+    ///     line.clear();
+    ///     rules->appendCanonicalNumber(&paris, number, "", false, line);
+    ///     write(line);
+    /// }
+    /// @endcode
+    void appendCanonicalNumber(KesDialRulesItem* myKesDialRulesItem, std::string_view strPhoneNumber,
+                               const std::string& strPattern, bool withExternalPrefix, std::string& out);
+    /// makeGSMCanonicalNumber(myKesDialRulesItem, strPhoneNumber, withExternalPrefix) appended to
+    /// `out`, as appendCanonicalNumber.
+    void appendGSMCanonicalNumber(KesDialRulesItem* myKesDialRulesItem, std::string_view strPhoneNumber,
+                                  bool withExternalPrefix, std::string& out);
     /// The digits to send on an outside line for any acceptable number, outside-line prefix included;
     /// "" when the number cannot be converted. std::invalid_argument for a null item or an empty number.
     ///
@@ -195,9 +214,6 @@ public:
     static std::string TELEPHONENUMBER_FORMAT_CHARACTER;
 
 private:
-    /// The trimmed number; a number in international form is rewritten into `layout` as
-    /// "+<country> (<area>) <rest>" and the view shows `layout`.
-    std::string_view validNumber(const std::string& strPhoneNumber, std::string& layout);
     /// The digits and service characters of the number, or "" when it holds another character.
     std::string checkPhoneNumber(std::string_view strPhoneNumber);
 };

@@ -101,7 +101,8 @@ public:
         for (char c : text)
             push(c);
     }
-    std::string str() const { return spill.empty() ? std::string(buffer, length) : spill; }
+    std::string_view view() const { return spill.empty() ? std::string_view(buffer, length) : spill; }
+    std::string str() const { return std::string(view()); }
 
 private:
     char buffer[48];

@@ -44,21 +44,25 @@ KesClid* KesNumberingRules::makeClid(KesDialRulesItem* myKesDialRulesItem, std::
     const std::string& ownCn = ownRule == nullptr ? none : ownRule->countryNumberText();
     const std::string& ldp = ownRule == nullptr ? none : ownRule->longDistPrefixText();
 
-    if (cn != ownCn) {
-        // The installation's own national prefix, not the caller country's, is left out.
-        std::string number;
-        number.reserve(cn.size() + area.size() + sub.size());
-        number += cn;
-        if (ldp.empty() || area != ldp)
-            number += area;
-        number += sub;
-        return new KesClid(std::move(number), &KesEnumOrigin::INTERNATIONAL);
-    }
-    if (area == ldp)
-        return new KesClid(std::move(sub), &KesEnumOrigin::NATIONAL);
-    if (area == myKesDialRulesItem->getAreaCode())
-        return new KesClid(std::move(sub), &KesEnumOrigin::PUBLIC_1);
-    return new KesClid(std::string(area) + sub, &KesEnumOrigin::NATIONAL);
+    KesClid* clid = [&] {
+        if (cn != ownCn) {
+            // The installation's own national prefix, not the caller country's, is left out.
+            std::string number;
+            number.reserve(cn.size() + area.size() + sub.size());
+            number += cn;
+            if (ldp.empty() || area != ldp)
+                number += area;
+            number += sub;
+            return new KesClid(std::move(number), &KesEnumOrigin::INTERNATIONAL);
+        }
+        if (area == ldp)
+            return new KesClid(std::move(sub), &KesEnumOrigin::NATIONAL);
+        if (area == myKesDialRulesItem->getAreaCode())
+            return new KesClid(std::move(sub), &KesEnumOrigin::PUBLIC_1);
+        return new KesClid(std::string(area) + sub, &KesEnumOrigin::NATIONAL);
+    }();
+    CanonicalNumber::recycle(std::move(can));
+    return clid;
 }
 
 } // namespace numbering

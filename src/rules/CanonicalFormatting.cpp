@@ -71,10 +71,10 @@ bool isNationalPrefix(KesNumberingConfig& store, std::string_view area, std::str
 
 std::string KesNumberingRules::formatCanonicalNumber(std::string strCanPhoneNumber, std::string strPattern) {
     const Conversion conversion;
-    return formatCanonical(conversion.generation(), strCanPhoneNumber, strPattern);
+    return formatCanonical(conversion.generation(), std::move(strCanPhoneNumber), strPattern);
 }
 
-std::string formatCanonical(Generation& generation, const std::string& strCanPhoneNumber,
+std::string formatCanonical(Generation& generation, std::string strCanPhoneNumber,
                             const std::string& strPattern) {
     Logger* logger = KesNumberingRules::logger;
     if (Logger::m_Traces)
@@ -128,7 +128,9 @@ std::string formatCanonical(Generation& generation, const std::string& strCanPho
             }
             // Digits the mask did not place are never lost.
             result.append(parts.subscriber.substr(placed));
-            return result.str();
+            // The number's own string takes the result: nothing left to read from it.
+            strCanPhoneNumber.assign(result.view());
+            return std::move(strCanPhoneNumber);
         },
         [&](const char* what) {
             logger->error(std::string("KesNumberingRules::formatCanonicalNumber exception: ") + what +

@@ -284,6 +284,45 @@ std::string canonicalForm(Generation& generation, TypedNumber& kind, std::string
     return canonicalByGenericRules(generation, kind, strAreaCode, internationalForm);
 }
 
+/// The trimmed number; a number in international form is rewritten into `result` as
+/// "+<country> (<area>) <rest>" and the view shows `result`.
+std::string_view validNumber(const std::string& strPhoneNumber, TextCollector& result) {
+    Logger* logger = KesNumberingRules::logger;
+    const std::string_view number = trimmed(strPhoneNumber);
+    if (number.size() < 2 || number[0] != '+')
+        return number;
+    const std::string_view::size_type length = number.size();
+    result.push('+');
+    std::string_view::size_type i = 1;
+    while (i < length && !isDigit(number[i]))
+        ++i;
+    while (i < length && isDigit(number[i]))
+        result.push(number[i++]);
+    while (i < length && !isDigit(number[i]))
+        ++i;
+    // The next run of digits is the area code, unless the number was written without separators
+    // ("+33123456789") or nothing follows the calling code: then the calling code stands alone.
+    if (i < length) {
+        result.append(" (");
+        while (i < length && isDigit(number[i]))
+            result.push(number[i++]);
+        result.append(") ");
+        if (Logger::m_Traces)
+            logger->debug("ValidNumber CountryCode + AreaCode : " + result.str());
+        // The parenthesis that closed the area code is written already.
+        while (i < length && number[i] == ' ')
+            ++i;
+        if (i < length && number[i] == ')')
+            ++i;
+        for (; i < length; ++i)
+            if (number[i] != ' ')
+                result.push(number[i]);
+    }
+    if (Logger::m_Traces)
+        logger->debug("validNumber before : " + std::string(number) + ", after : " + result.str());
+    return result.view();
+}
+
 } // namespace
 
 std::string KesNumberingRules::makeCanonicalNumber(KesDialRulesItem* myKesDialRulesItem,
@@ -309,7 +348,7 @@ std::string KesNumberingRules::makeCanonicalNumber(KesDialRulesItem* myKesDialRu
             if (startsWith(strPhoneNumber, ext))
                 strPhoneNumber.erase(0, ext.size());
         }
-        std::string layout;
+        TextCollector layout;
         const std::string_view strValid = validNumber(strPhoneNumber, layout);
         const bool internationalForm = firstCharacter(strValid) == '+';
         Generation& generation = conversion.generation();
@@ -326,51 +365,27 @@ std::string KesNumberingRules::makeCanonicalNumber(KesDialRulesItem* myKesDialRu
             return std::move(kind.number);
         std::string canonical = canonicalForm(generation, kind, strValid, strAreaCode, internationalForm);
         if (firstCharacter(canonical) == '+')
-            return formatCanonical(generation, canonical, strPattern);
+            return formatCanonical(generation, std::move(canonical), strPattern);
         return canonical;
     };
-    return guardConversion(convert, [&](const char* what) {
+    std::string result = guardConversion(convert, [&](const char* what) {
         logConversionFailure(logger, "makeCanonicalNumber", what, strPhoneNumber,
                              ", Pattern: '" + strPattern + "'", myKesDialRulesItem);
         return std::string();
     });
+    CanonicalNumber::recycle(std::move(strPhoneNumber));
+    return result;
 }
 
-std::string_view KesNumberingRules::validNumber(const std::string& strPhoneNumber, std::string& layout) {
-    const std::string_view number = trimmed(strPhoneNumber);
-    if (number.size() < 2 || number[0] != '+')
-        return number;
-    const std::string_view::size_type length = number.size();
-    std::string& result = layout;
-    result += '+';
-    std::string_view::size_type i = 1;
-    while (i < length && !isDigit(number[i]))
-        ++i;
-    while (i < length && isDigit(number[i]))
-        result += number[i++];
-    while (i < length && !isDigit(number[i]))
-        ++i;
-    // The next run of digits is the area code, unless the number was written without separators
-    // ("+33123456789") or nothing follows the calling code: then the calling code stands alone.
-    if (i < length) {
-        result += " (";
-        while (i < length && isDigit(number[i]))
-            result += number[i++];
-        result += ") ";
-        if (Logger::m_Traces)
-            logger->debug("ValidNumber CountryCode + AreaCode : " + result);
-        // The parenthesis that closed the area code is written already.
-        while (i < length && number[i] == ' ')
-            ++i;
-        if (i < length && number[i] == ')')
-            ++i;
-        for (; i < length; ++i)
-            if (number[i] != ' ')
-                result += number[i];
-    }
-    if (Logger::m_Traces)
-        logger->debug("validNumber before : " + std::string(number) + ", after : " + result);
-    return result;
+void KesNumberingRules::appendCanonicalNumber(KesDialRulesItem* myKesDialRulesItem,
+                                              std::string_view strPhoneNumber, const std::string& strPattern,
+                                              bool withExternalPrefix, std::string& out) {
+    std::string number = CanonicalNumber::takeSpare();
+    number.assign(strPhoneNumber);
+    std::string canonical =
+        makeCanonicalNumber(myKesDialRulesItem, std::move(number), strPattern, withExternalPrefix);
+    out += canonical;
+    CanonicalNumber::recycle(std::move(canonical));
 }
 
 std::string KesNumberingRules::checkPhoneNumber(std::string_view strPhoneNumber) {

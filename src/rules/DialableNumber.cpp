@@ -56,19 +56,22 @@ std::string KesNumberingRules::makeDialableNumber(KesDialRulesItem* myKesDialRul
         number.empty())
         return std::string();
 
+    std::string dialled;
     if (countryNumber != country) {
         if (Logger::m_Traces)
             logger->debug("KesNumberingRules : makePhoneNumber International");
-        return dialable->makeInternationalDialableNumber(country, areaNatPfx, number, countryRule);
-    }
-    if (std::find(areaCodes.begin(), areaCodes.end(), areaNatPfx) != areaCodes.end()) {
+        dialled = dialable->makeInternationalDialableNumber(country, areaNatPfx, number, countryRule);
+    } else if (std::find(areaCodes.begin(), areaCodes.end(), areaNatPfx) != areaCodes.end()) {
         if (Logger::m_Traces)
             logger->debug("KesNumberingRules : makePhoneNumber local with area code");
-        return dialable->makeLocalDialableNumber(areaNatPfx, number, countryRule);
+        dialled = dialable->makeLocalDialableNumber(areaNatPfx, number, countryRule);
+    } else {
+        if (Logger::m_Traces)
+            logger->debug("KesNumberingRules : makePhoneNumber Long Distance");
+        dialled = dialable->makeLongDistDialableNumber(areaNatPfx, number, countryRule, myKesDialRulesItem);
     }
-    if (Logger::m_Traces)
-        logger->debug("KesNumberingRules : makePhoneNumber Long Distance");
-    return dialable->makeLongDistDialableNumber(areaNatPfx, number, countryRule, myKesDialRulesItem);
+    CanonicalNumber::recycle(std::move(strCanPhoneNumber));
+    return dialled;
 }
 
 bool KesNumberingRules::isPrefixNeeded(KesDialRulesItem* myKesDialRulesItem, std::string strPhoneNumber) {

@@ -47,7 +47,7 @@ std::string defaultCanonicalNumber(Generation& generation, std::string strPhoneN
                                    std::string_view strCountryCode, std::string_view strAreaCode);
 
 /// formatCanonicalNumber.
-std::string formatCanonical(Generation& generation, const std::string& strCanPhoneNumber,
+std::string formatCanonical(Generation& generation, std::string strCanPhoneNumber,
                             const std::string& strPattern);
 
 /// formatToGSMCanonicalNumber.

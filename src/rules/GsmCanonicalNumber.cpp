@@ -18,9 +18,21 @@ std::string KesNumberingRules::makeGSMCanonicalNumber(KesDialRulesItem* myKesDia
     const Conversion conversion; // the canonical form and its GSM form from one configuration
     std::string can =
         makeCanonicalNumber(myKesDialRulesItem, std::move(strPhoneNumber), "", withExternalPrefix);
-    if (startsWith(can, '+'))
-        return formatToGsm(conversion.generation(), can);
-    return can;
+    if (!startsWith(can, '+'))
+        return can;
+    std::string gsm = formatToGsm(conversion.generation(), can);
+    CanonicalNumber::recycle(std::move(can));
+    return gsm;
+}
+
+void KesNumberingRules::appendGSMCanonicalNumber(KesDialRulesItem* myKesDialRulesItem,
+                                                 std::string_view strPhoneNumber, bool withExternalPrefix,
+                                                 std::string& out) {
+    std::string number = CanonicalNumber::takeSpare();
+    number.assign(strPhoneNumber);
+    std::string gsm = makeGSMCanonicalNumber(myKesDialRulesItem, std::move(number), withExternalPrefix);
+    out += gsm;
+    CanonicalNumber::recycle(std::move(gsm));
 }
 
 std::string KesNumberingRules::formatToGSMCanonicalNumber(std::string strCanPhoneNumber) {

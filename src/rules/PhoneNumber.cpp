@@ -36,8 +36,8 @@ std::string withExternalPrefix(KesNumberingRules& facade, KesDialRulesItem* rule
 /// The digits that dial `number` from the installation: its canonical form, dialled; "" when it has
 /// no canonical form.
 std::string dialledForm(KesNumberingRules& facade, KesDialRulesItem* rules, const std::string& number) {
-    const std::string canonical = facade.makeCanonicalNumber(rules, number, "", false);
-    return canonical.empty() ? canonical : facade.makeDialableNumber(rules, canonical);
+    std::string canonical = facade.makeCanonicalNumber(rules, number, "", false);
+    return canonical.empty() ? canonical : facade.makeDialableNumber(rules, std::move(canonical));
 }
 
 bool containsServiceCharacter(const std::string& number) {
