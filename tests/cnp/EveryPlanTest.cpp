@@ -2,21 +2,11 @@
 // these checks by its row alone. Conversions particular to one country are in ConversionsTest.
 
 #include "PlanWorld.h"
-#include "TestHost.h"
-
-#include "numbering/KesNumberingRules.h"
-
-#include <gtest/gtest.h>
 
 #include <fstream>
-#include <map>
 #include <sstream>
-#include <string>
 #include <sys/stat.h>
-#include <utility>
-#include <vector>
 
-using namespace numbering;
 using namespace planworld;
 
 namespace numbering {
@@ -42,12 +32,7 @@ std::vector<KesCNPRegistry::Plan> areaCodePlans() {
 }
 
 class EveryPlan : public PlanTest, public ::testing::WithParamInterface<KesCNPRegistry::Plan> {};
-
-// No plan file at all unless the test writes one.
-class EveryAreaCodePlan : public EveryPlan {
-protected:
-    EveryAreaCodePlan() { writesFiles = false; }
-};
+class EveryAreaCodePlan : public NoPlanFiles, public ::testing::WithParamInterface<KesCNPRegistry::Plan> {};
 
 /// The info texts each plan logs when its installation file cannot be opened and when it does not
 /// exist, slips included: 44 names Austria, 353 writes "Irelandd".

@@ -2,7 +2,7 @@
 // taken once the files are quiet, a broken edit is refused and logged, and stopping is prompt and
 // clean, also while a change waits for the settle time. Built under the sanitizers with the suite.
 #include "ReloadedWorld.h"
-#include "TestHost.h"
+#include "Suite.h"
 
 #include "numbering/KesConfigurationWatcher.h"
 #include "numbering/KesNumberingRules.h"

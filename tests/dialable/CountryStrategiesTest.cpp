@@ -1,26 +1,12 @@
-#include "TestConfig.h"
-#include "TestHost.h"
+#include "Suite.h"
 
-#include "numbering/KesCountryRuleItem.h"
-#include "numbering/KesDialRulesItem.h"
-#include "numbering/KesDialable.h"
-#include "numbering/KesDialableManager.h"
 #include "numbering/KesDialable_52.h"
 #include "numbering/KesDialable_54.h"
 #include "numbering/KesDialable_57.h"
 #include "numbering/KesDialable_61.h"
 #include "numbering/KesDialable_7.h"
-#include "numbering/KesNumberingRules.h"
 
-#include <Poco/AutoPtr.h>
-#include <gtest/gtest.h>
-
-#include <stdexcept>
-#include <string>
 #include <typeinfo>
-#include <vector>
-
-using namespace numbering;
 
 namespace {
 
@@ -45,15 +31,14 @@ std::string longDist(KesDialable& strategy, std::string area, std::string number
 
 /// The standard world ("RU" has the long-distance prefix "8", "AR" and "CO" have "0"), the
 /// Argentine area codes 11 and 351 and the Colombian operators.
-class CountryStrategies : public ::testing::Test {
+class CountryStrategies : public testconfig::WorldTest {
 protected:
     void SetUp() override {
-        testconfig::useStandardWorld();
+        testconfig::useWorld();
         testconfig::write("tz310cnp_54.properties", "Translate=1\nAC_0000=11\nAC_0001=351\n");
         testconfig::write("tz310cnp_57.properties",
                           "OP_DEFAULT=456\nOP_0000=456\nOP_0001=47 Comcel\nOP_0003=9\n");
     }
-    void TearDown() override { testconfig::reload(); }
 };
 
 } // namespace
@@ -242,13 +227,11 @@ TEST_F(CountryStrategies, GenericLongDistanceAndLocalRulesMergeThePrefix) {
 // The manager lends each country its strategy, made once: five countries have classes of their own.
 TEST_F(CountryStrategies, TheManagerLendsEachCountryItsStrategy) {
     KesDialableManager* manager = KesDialableManager::getInstance();
-    EXPECT_NE(dynamic_cast<KesDialable_7*>(manager->getDialable("7")), nullptr);
-    EXPECT_NE(dynamic_cast<KesDialable_52*>(manager->getDialable("52")), nullptr);
-    EXPECT_NE(dynamic_cast<KesDialable_54*>(manager->getDialable("54")), nullptr);
-    EXPECT_NE(dynamic_cast<KesDialable_57*>(manager->getDialable("57")), nullptr);
-    EXPECT_NE(dynamic_cast<KesDialable_61*>(manager->getDialable("61")), nullptr);
-    KesDialable* generic = manager->getDialable("999");
-    EXPECT_EQ(typeid(*generic), typeid(KesDialable));
+    const std::pair<const char*, const std::type_info*> strategies[] = {
+        {"7", &typeid(KesDialable_7)},   {"52", &typeid(KesDialable_52)}, {"54", &typeid(KesDialable_54)},
+        {"57", &typeid(KesDialable_57)}, {"61", &typeid(KesDialable_61)}, {"999", &typeid(KesDialable)}};
+    for (const auto& [code, type] : strategies)
+        EXPECT_EQ(typeid(*manager->getDialable(code)), *type) << code;
     EXPECT_EQ(manager->getDialable("57"), manager->getDialable("57"));
     EXPECT_EQ(manager->getDialable(""), nullptr);
 }
