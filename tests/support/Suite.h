@@ -40,7 +40,9 @@ std::vector<std::string>& lines();
 void clear();
 /// How many received lines contain `text`; whether one does.
 int countLogged(const std::string& text);
-inline bool logged(const std::string& text) { return countLogged(text) > 0; }
+inline bool logged(const std::string& text) {
+    return countLogged(text) > 0;
+}
 
 /// Switches debug tracing on (or off) for one scope and clears the recorded lines.
 class Tracing {
@@ -81,7 +83,9 @@ void remove(const std::string& fileName);
 /// Removes every file from the directory.
 void clearAll();
 /// Drops every singleton so that the next use re-reads the files.
-inline void reload() { KesNumberingRules::resetInstance(); }
+inline void reload() {
+    KesNumberingRules::resetInstance();
+}
 
 /// A small world of countries, enough for the conversions under test (France, Germany, the
 /// United Kingdom, the United States with Canada sharing +1, Russia, Italy ...).
