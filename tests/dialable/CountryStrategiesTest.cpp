@@ -151,76 +151,55 @@ TEST_F(CountryStrategies, ColombianOperatorsUpToTheFirstGap) {
     EXPECT_EQ(longDist(withoutFile, "1", "2345678", rule.get(), nullptr), "0912345678");
 }
 
-// The subscriber number stands where the country code belongs: kept as installations dial it.
-TEST_F(CountryStrategies, ColombianInternationalFormRepeatsTheNumber) {
+// International numbers: the generic strategy reads the letters of the international rule and
+// looks the destination's national prefix up in the store (the United Kingdom writes "0"); the
+// Colombian one puts the subscriber number where the country code belongs, as installations dial it.
+TEST_F(CountryStrategies, InternationalNumbers) {
     testconfig::remove("tz310cnp_57.properties");
+    KesDialable generic;
     KesDialable_57 colombia;
-    const char* const cases[][4] = {
-        // rule, country, area, expected
-        {"EF", "34", "91", "0091234567911234567"},
-        {"EF", "33", "0", "00912345671234567"}, // the destination's national prefix is dropped
-        {"E", "34", "91", "00912345671234567"},
-        {"F", "34", "91", "009911234567"},
+    const char* const cases[][6] = {
+        // strategy, rule, country, area, number, expected
+        // Letters other than E, F and I are ignored.
+        {"", "EFG", "49", "89", "123456", "004989123456"},
+        {"", "E", "49", "89", "123456", "0049123456"},
+        {"", "F", "49", "89", "123456", "0089123456"},
+        {"", "", "49", "89", "123456", "00123456"},
+        // The destination's national prefix in place of an area code is dropped, on an exact match only.
+        {"", "EF", "44", "0", "2071234567", "00442071234567"},
+        {"", "EF", "44", "01", "234567", "004401234567"},
+        // A destination the store does not know keeps its area field.
+        {"", "EF", "999", "0", "1234", "0099901234"},
+        {"57", "EF", "34", "91", "1234567", "0091234567911234567"},
+        {"57", "EF", "33", "0", "1234567", "00912345671234567"},
+        {"57", "E", "34", "91", "1234567", "00912345671234567"},
+        {"57", "F", "34", "91", "1234567", "009911234567"},
     };
     for (const auto& c : cases) {
-        Rule rule = ruleOf("57", "0", c[0]);
-        std::string country = c[1], area = c[2], number = "1234567";
-        EXPECT_EQ(colombia.makeInternationalDialableNumber(country, area, number, rule.get()), c[3])
-            << c[0] << " " << c[1] << " " << c[2];
+        Rule rule(new KesCountryRuleItem("33", "00", c[1], "0F", "", "Test"));
+        std::string country = c[2], area = c[3], number = c[4];
+        KesDialable& strategy = c[0][0] != '\0' ? colombia : generic;
+        EXPECT_EQ(strategy.makeInternationalDialableNumber(country, area, number, rule.get()), c[5])
+            << c[0] << " " << c[1] << " " << c[2] << "/" << c[3] << "/" << c[4];
     }
 }
 
-// The generic strategy: the letters of the international rule, and the destination's national prefix
-// looked up in the store (the United Kingdom writes "0").
-TEST_F(CountryStrategies, GenericInternationalRuleLetters) {
-    KesDialable strategy;
-    struct Case {
-        std::string rule, country, area, number, expected;
-    };
-    const std::vector<Case> cases = {
-        // Letters other than E, F and I are ignored.
-        {"EFG", "49", "89", "123456", "004989123456"},
-        {"E", "49", "89", "123456", "0049123456"},
-        {"F", "49", "89", "123456", "0089123456"},
-        {"", "49", "89", "123456", "00123456"},
-        // The destination's national prefix in place of an area code is dropped, on an exact match only.
-        {"EF", "44", "0", "2071234567", "00442071234567"},
-        {"EF", "44", "01", "234567", "004401234567"},
-        // A destination the store does not know keeps its area field.
-        {"EF", "999", "0", "1234", "0099901234"},
-    };
-    for (const Case& c : cases) {
-        Rule rule(new KesCountryRuleItem("33", "00", c.rule, "0F", "", "Test"));
-        std::string country = c.country, area = c.area, number = c.number;
-        EXPECT_EQ(strategy.makeInternationalDialableNumber(country, area, number, rule.get()), c.expected)
-            << c.rule << " " << c.country << "/" << c.area << "/" << c.number;
-    }
-}
-
+// The generic long-distance and local rules complete the prefix, never double it; "I" puts the
+// prefix without the area code.
 TEST_F(CountryStrategies, GenericLongDistanceAndLocalRulesMergeThePrefix) {
     KesDialable strategy;
-    struct Case {
-        std::string rule, area, number, expected;
-    };
-    const std::vector<Case> cases = {
-        {"0F", "4", "76112233", "0476112233"},
-        // The prefix is completed, never doubled.
-        {"0F", "04", "76112233", "0476112233"},
-        {"01F", "0234", "5", "012345"},
-        // "I": the prefix without the area code.
-        {"0I", "4", "76112233", "076112233"},
-        {"", "4", "76112233", "76112233"},
-        {"F", "1", "234", "1234"},
-    };
+    const char* const cases[][4] = {
+        {"0F", "4", "76112233", "0476112233"}, {"0F", "04", "76112233", "0476112233"},
+        {"01F", "0234", "5", "012345"},        {"0I", "4", "76112233", "076112233"},
+        {"", "4", "76112233", "76112233"},     {"F", "1", "234", "1234"}};
     KesDialRulesItem rules;
-    for (const Case& c : cases) {
-        Rule longDist(new KesCountryRuleItem("33", "00", "EF", c.rule, "", "Test"));
-        Rule local(new KesCountryRuleItem("33", "00", "EF", "", c.rule, "Test"));
-        std::string area = c.area, number = c.number;
-        EXPECT_EQ(strategy.makeLongDistDialableNumber(area, number, longDist.get(), &rules), c.expected)
-            << "long distance " << c.rule << " " << c.area << "/" << c.number;
-        EXPECT_EQ(strategy.makeLocalDialableNumber(area, number, local.get()), c.expected)
-            << "local " << c.rule << " " << c.area << "/" << c.number;
+    for (const auto& c : cases) {
+        Rule longDist(new KesCountryRuleItem("33", "00", "EF", c[0], "", "Test"));
+        Rule local(new KesCountryRuleItem("33", "00", "EF", "", c[0], "Test"));
+        std::string area = c[1], number = c[2];
+        EXPECT_EQ(strategy.makeLongDistDialableNumber(area, number, longDist.get(), &rules), c[3])
+            << c[0] << c[1];
+        EXPECT_EQ(strategy.makeLocalDialableNumber(area, number, local.get()), c[3]) << c[0] << c[1];
     }
 }
 

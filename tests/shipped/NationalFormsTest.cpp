@@ -76,7 +76,6 @@ class ShippedExamples : public ::testing::TestWithParam<NationalCase> {};
 } // namespace
 
 TEST(ExampleNumbersFile, HoldsEveryCountryOfTheTables) {
-    ASSERT_EQ(readError(), "");
     EXPECT_GT(exampleNumbers().size(), 200u);
     for (const std::string installation : INSTALLATIONS) {
         const CountryExamples* examples = examplesOf(installation.substr(0, 2));
