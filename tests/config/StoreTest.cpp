@@ -71,7 +71,7 @@ TEST_F(NumberingConfig, LookUps) {
 }
 
 // With both present the installation file alone counts: the two are never merged. (The default
-// files read in place of missing or unopenable ones: UnopenableFilesTest.)
+// files read in place of missing or unopenable ones: HostileConfigurationTest.)
 TEST_F(NumberingConfig, DefaultFileIsNotReadBesideTheInstallationFile) {
     testconfig::write("dialingrules_default.properties", "DE = 49:00:EF:0F::Germany:P\n");
     KesNumberingConfig* config = load("FR = 33:00:EF:0F::France:P\n");
