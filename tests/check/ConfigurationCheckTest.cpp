@@ -1,21 +1,11 @@
 // The configuration check on broken configurations: each mistake an installer can make, with the
 // finding it must give, on top of a small configuration that checks clean.
-#include "TestConfig.h"
+#include "Suite.h"
 
 #include "numbering/KesConfigurationCheck.h"
 
-#include <Poco/AutoPtr.h>
-#include <Poco/Exception.h>
-#include <Poco/Util/PropertyFileConfiguration.h>
-
-#include <gtest/gtest.h>
-
 #include <sstream>
-#include <string>
 #include <sys/stat.h>
-#include <vector>
-
-using namespace numbering;
 using Severity = KesConfigurationFinding::Severity;
 
 namespace {
@@ -239,27 +229,6 @@ TEST_F(ConfigurationCheck, FilesThatCannotBeOpenedLeaveTheDefaultInUse) {
     EXPECT_EQ(report.files[1].inUse, directory + "dlr_cnp_mask_default.properties");
 }
 
-// The reader's own limit on nested references, which the check foresees without expanding.
-TEST_F(ConfigurationCheck, ForeseesWhereTheReaderGivesUpOnReferences) {
-    for (int depth : {9, 10}) {
-        std::istringstream text(referenceChain(depth));
-        Poco::AutoPtr<Poco::Util::PropertyFileConfiguration> reader(
-            new Poco::Util::PropertyFileConfiguration(text));
-        bool readerFails = false;
-        try {
-            reader->getString("k0");
-        } catch (const Poco::Exception&) {
-            readerFails = true;
-        }
-        testconfig::write(OPERATORS_FILE, OPERATORS + referenceChain(depth));
-        bool checkFails = false;
-        for (const KesConfigurationFinding& finding :
-             KesConfigurationCheck::check(testconfig::directory()).findings)
-            checkFails = checkFails || finding.message.find("k0 cannot be read") != std::string::npos;
-        EXPECT_EQ(checkFails, readerFails) << depth << " levels";
-    }
-}
-
 /// `text` with every character widened to `width` bytes, as UTF-16 or UTF-32 write Latin text.
 std::string widened(const std::string& text, std::size_t width, bool bigEndian) {
     std::string wide;
@@ -289,25 +258,4 @@ TEST_F(ConfigurationCheck, FileInAnotherEncodingGivesOneErrorNamingIt) {
         EXPECT_EQ(aboutMasks[0].severity, ERROR);
         EXPECT_NE(aboutMasks[0].message.find(encoding), std::string::npos) << aboutMasks[0].message;
     }
-}
-
-// Ten keys skipped for one reason: three listed, the others counted in one finding.
-TEST_F(ConfigurationCheck, CountsWhatRepeatsBeyondAFew) {
-    std::string masks = MASKS;
-    for (int i = 0; i < 10; ++i)
-        masks += "Mask_7" + std::to_string(i) + "=+C x\n";
-    testconfig::write(MASKS_FILE, masks);
-    const KesConfigurationReport report = KesConfigurationCheck::check(testconfig::directory());
-    std::vector<std::string> messages;
-    for (const KesConfigurationFinding& finding : report.findings)
-        messages.push_back(finding.message +
-                           (finding.alike > 0 ? " [" + std::to_string(finding.alike) + "]" : ""));
-    const std::string skipped =
-        " is skipped: no '_' follows the calling code (write Mask_<calling code>_<suffix>, "
-        "such as Mask_33_1)";
-    EXPECT_EQ(messages,
-              (std::vector<std::string>{"Mask_70" + skipped, "Mask_71" + skipped, "Mask_72" + skipped,
-                                        "and 7 more like it, not listed one by one [7]"}));
-    EXPECT_EQ(report.count(WARNING), 10);
-    EXPECT_EQ(report.count(ERROR), 0);
 }

@@ -1,19 +1,8 @@
 // The area code tree and the character tree it stands for.
 
-#include "TestHost.h"
-
-#include "numbering/KesAreaCodeTree.h"
-#include "numbering/KesCharsTree.h"
-#include "numbering/number_format_exception.h"
-
-#include <gtest/gtest.h>
+#include "Suite.h"
 
 #include <random>
-#include <stdexcept>
-#include <string>
-#include <vector>
-
-using namespace numbering;
 
 namespace {
 
@@ -24,14 +13,9 @@ std::string randomDigits(std::mt19937& random, std::size_t longest) {
     return digits;
 }
 
-/// The message of the `Exception` that `insert` throws, "none" when it throws nothing.
+/// The message of the `Exception` that `insert` throws.
 template <class Exception, class Tree> std::string thrownBy(Tree& tree, const std::string& code) {
-    try {
-        tree.insert(code);
-    } catch (const Exception& e) {
-        return e.what();
-    }
-    return "none";
+    return testhost::thrownText<Exception>([&] { tree.insert(code); });
 }
 
 } // namespace

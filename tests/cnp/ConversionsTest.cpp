@@ -3,15 +3,8 @@
 
 #include "PlanWorld.h"
 
-#include "numbering/KesDialable.h"
-
-#include <gtest/gtest.h>
-
 #include <initializer_list>
-#include <regex>
-#include <string>
 
-using namespace numbering;
 using namespace planworld;
 
 namespace {
@@ -193,25 +186,4 @@ TEST_F(Conversions, PlansReadTheStoreInUseAndMissingRowsMeanNoNationalPrefix) {
         EXPECT_EQ(france->dlr_Country_MakeCanonicalNumber(number, &french), "+33 (0) 123456789");
     for (const char* number : {"84951234567", "084951234567"})
         EXPECT_EQ(russia->dlr_Country_MakeCanonicalNumber(number, &french), "+7 (495) 1234567");
-}
-
-// New Zealand's canonical forms dial back to their national digits through the generic strategy
-// and its long-distance rule, and from abroad with the country code.
-TEST_F(Conversions, NewZealandFormsDialBackToTheirDigits) {
-    KesNumberingConfig* config = KesNumberingConfig::getInstance();
-    KesDialable strategy;
-    KesDialRulesItem rules("NZ", "", 0, "", 0, "");
-    const std::regex areaAndSubscriber("\\+64 \\((\\d+)\\) (\\d+)");
-    for (const char* national : {"031234567", "091234567", "021123456", "0211234567", "02112345678",
-                                 "024012345", "0800123456", "08001234567", "0508123456", "090012345"}) {
-        std::string canonical = plan("64")->dlr_Country_MakeCanonicalNumber(national, &rules);
-        std::smatch parts;
-        ASSERT_TRUE(std::regex_match(canonical, parts, areaAndSubscriber)) << canonical;
-        std::string area = parts.str(1), subscriber = parts.str(2), country = "64";
-        EXPECT_EQ(strategy.makeLongDistDialableNumber(area, subscriber, config->getCountryRule("NZ"), &rules),
-                  national);
-        EXPECT_EQ(
-            strategy.makeInternationalDialableNumber(country, area, subscriber, config->getCountryRule("FR")),
-            "0064" + std::string(national + 1));
-    }
 }

@@ -4,22 +4,11 @@
 // The world the plan tests run in: the standard dialing rules and one plan file per plan that reads
 // area codes, written into the test program's configuration directory.
 
-#include "TestConfig.h"
-
-#include "numbering/KesAreaCodePlan.h"
-#include "numbering/KesCNPFactory.h"
-#include "numbering/KesCNPRegistry.h"
-#include "numbering/KesDialRulesItem.h"
-#include "numbering/KesNumberingConfig.h"
-
-#include <Poco/AutoPtr.h>
-#include <gtest/gtest.h>
+#include "Suite.h"
 
 #include <cstdio>
 #include <map>
 #include <ostream>
-#include <string>
-#include <vector>
 
 namespace planworld {
 
@@ -45,10 +34,6 @@ inline std::vector<const char*> worldAreaCodes(const std::string& code) {
     return found != codes.end() ? found->second : std::vector<const char*>{"20"};
 }
 
-inline std::string installationFile(const std::string& code) {
-    return numbering::KesCNPRegistry::installationFile(code);
-}
-
 /// "AC_0000=first\nAC_0001=second\n..." for `codes` in order.
 inline std::string areaCodeLines(const std::vector<const char*>& codes) {
     std::string lines;
@@ -65,16 +50,16 @@ inline std::string areaCodeLines(const std::vector<const char*>& codes) {
 inline void writePlanFile(const std::string& code, const char* translate,
                           const std::vector<const char*>& codes) {
     std::string head = translate != nullptr ? std::string("Translate=") + translate + "\n" : std::string();
-    testconfig::write(installationFile(code), head + areaCodeLines(codes));
+    testconfig::write(KesCNPRegistry::installationFile(code), head + areaCodeLines(codes));
 }
 
 /// A new plan of `code`, owned by the pointer.
-inline Poco::AutoPtr<numbering::KesCNP> plan(const std::string& code) {
-    return Poco::AutoPtr<numbering::KesCNP>(numbering::KesCNPFactory::CreateInstance(code));
+inline Poco::AutoPtr<KesCNP> plan(const std::string& code) {
+    return Poco::AutoPtr<KesCNP>(KesCNPFactory::CreateInstance(code));
 }
-inline Poco::AutoPtr<numbering::KesAreaCodePlan> filePlan(const std::string& code) {
-    return Poco::AutoPtr<numbering::KesAreaCodePlan>(
-        dynamic_cast<numbering::KesAreaCodePlan*>(numbering::KesCNPFactory::CreateInstance(code)));
+inline Poco::AutoPtr<KesAreaCodePlan> filePlan(const std::string& code) {
+    return Poco::AutoPtr<KesAreaCodePlan>(
+        dynamic_cast<KesAreaCodePlan*>(KesCNPFactory::CreateInstance(code)));
 }
 
 /// An installation: country, outside-line prefix, local number length, own area code and the
@@ -86,12 +71,10 @@ struct Site {
     const char* ownArea;
     const char* exception = "";
 
-    std::string callingCode() const {
-        return numbering::KesNumberingConfig::getInstance()->getCountryNumber(country);
-    }
+    std::string callingCode() const { return KesNumberingConfig::getInstance()->getCountryNumber(country); }
     /// The canonical number of `typed` by a new plan of the country.
     std::string convert(const std::string& typed) const {
-        numbering::KesDialRulesItem rules(country, extPrefix, localLength, ownArea, 0, exception);
+        KesDialRulesItem rules(country, extPrefix, localLength, ownArea, 0, exception);
         return plan(callingCode())->dlr_Country_MakeCanonicalNumber(typed, &rules);
     }
     friend std::ostream& operator<<(std::ostream& out, const Site& site) {
@@ -101,18 +84,23 @@ struct Site {
 };
 
 /// Standard dialing rules and, unless `writesFiles` is cleared before SetUp, the shared plan files.
-class PlanTest : public ::testing::Test {
+class PlanTest : public testconfig::WorldTest {
 protected:
     void SetUp() override {
-        testconfig::useStandardWorld();
+        testconfig::useWorld();
         if (writesFiles)
-            for (const numbering::KesCNPRegistry::Plan& p : numbering::KesCNPRegistry::plans())
+            for (const KesCNPRegistry::Plan& p : KesCNPRegistry::plans())
                 if (p.readsAreaCodes())
                     writePlanFile(p.callingCode, "1", worldAreaCodes(p.callingCode));
-        numbering::KesNumberingConfig::getInstance();
+        KesNumberingConfig::getInstance();
     }
-    void TearDown() override { testconfig::reload(); }
     bool writesFiles = true;
+};
+
+/// A plan test without any plan file unless the test writes one.
+class NoPlanFiles : public PlanTest {
+protected:
+    NoPlanFiles() { writesFiles = false; }
 };
 
 } // namespace planworld

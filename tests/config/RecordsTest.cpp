@@ -1,15 +1,6 @@
-#include "TestConfig.h"
+#include "Suite.h"
 
-#include "numbering/KesCountryRuleItem.h"
-#include "numbering/KesDialRulesItem.h"
-#include "numbering/KesUnsupportedCountryException.h"
-
-#include <Poco/AutoPtr.h>
-#include <gtest/gtest.h>
-
-#include <vector>
-
-using namespace numbering;
+#include "numbering/KesSiteFile.h"
 
 // The prefix of a rule is what stands before its first "F"; only the long-distance rule is trimmed.
 TEST(CountryRuleItem, PrefixesComeFromTheRules) {
@@ -18,42 +9,30 @@ TEST(CountryRuleItem, PrefixesComeFromTheRules) {
     for (const auto& c : cases) {
         Poco::AutoPtr<KesCountryRuleItem> item(
             new KesCountryRuleItem("33", "00", "EF", c[0], c[0], "France"));
-        EXPECT_EQ(item->getLongDistPrefix(), c[1]) << c[0];
-        EXPECT_EQ(item->getLocalDistPrefix(), c[1]) << c[0];
+        EXPECT_TRUE(item->getLongDistPrefix() == c[1] && item->getLocalDistPrefix() == c[1]) << c[0];
     }
     Poco::AutoPtr<KesCountryRuleItem> item(
         new KesCountryRuleItem("33", "00", "EF", "  0F ", " 0F ", "France"));
-    EXPECT_EQ(item->getLongDistRule(), "0F");
-    EXPECT_EQ(item->getLongDistPrefix(), "0");
-    EXPECT_EQ(item->getLocalRule(), " 0F ");
-    EXPECT_EQ(item->getLocalDistPrefix(), " 0");
+    EXPECT_EQ(item->getLongDistRule() + "|" + item->getLongDistPrefix(), "0F|0");
+    EXPECT_EQ(item->getLocalRule() + "|" + item->getLocalDistPrefix(), " 0F | 0");
 }
 
 namespace {
 
-class DialRulesItem : public ::testing::Test {
+class DialRulesItem : public testconfig::WorldTest {
 protected:
     void SetUp() override {
-        testconfig::clearAll();
-        testconfig::write("dialingrules.properties", "FR = 33:00:EF:0F::France:P\n"
-                                                     "fr = 33:00:EF:0F::lower case:\n");
-        testconfig::reload();
+        testconfig::useWorld("FR = 33:00:EF:0F::France:P\nfr = 33:00:EF:0F::lower case:\n");
     }
-    void TearDown() override { testconfig::reload(); }
 };
 
 } // namespace
 
 TEST_F(DialRulesItem, CountryIsValidatedAndAFailedChangeKeepsThePreviousOne) {
     EXPECT_NO_THROW(KesDialRulesItem("fr", "0", 4, "1", 0, ""));
-    try {
-        KesDialRulesItem("FRA", "0", 4, "1", 0, "");
-        FAIL();
-    } catch (const std::invalid_argument& e) {
-        EXPECT_STREQ(
-            e.what(),
-            "'strCountryCode' parameter can not be null and must be an Alpha-2 ISO 3166 country code");
-    }
+    EXPECT_EQ(
+        testhost::thrownText<std::invalid_argument>([] { KesDialRulesItem("FRA", "0", 4, "1", 0, ""); }),
+        "'strCountryCode' parameter can not be null and must be an Alpha-2 ISO 3166 country code");
     EXPECT_THROW(KesDialRulesItem("DE", "0", 4, "1", 0, ""), KesUnsupportedCountryException);
     KesDialRulesItem rules;
     EXPECT_EQ(rules.getCountryId(), "FR");
@@ -62,7 +41,7 @@ TEST_F(DialRulesItem, CountryIsValidatedAndAFailedChangeKeepsThePreviousOne) {
     EXPECT_EQ(rules.getCountryId(), "FR");
 }
 
-TEST_F(DialRulesItem, LengthsAndAreaCodes) {
+TEST_F(DialRulesItem, LengthsAreaCodesAndText) {
     KesDialRulesItem rules("FR", "0", -1, "", -3, "");
     EXPECT_EQ(rules.getLocalNbLength(), 0);
     EXPECT_EQ(rules.getExceptNbLength(), 0);
@@ -81,11 +60,31 @@ TEST_F(DialRulesItem, LengthsAndAreaCodes) {
         << "an empty text keeps the list";
     rules.setAreaCode(" , ");
     EXPECT_TRUE(rules.getAreaCodesList().empty());
+
+    KesDialRulesItem paris("FR", "0", 4, "1, 2", 3, "00");
+    EXPECT_EQ(paris.ToString(), std::string("CountryCode : 'FR', External Prefix : '0', Local length : 4, "
+                                            "AreaCode : '1', m_areaCodesList :  '1' '2', Except length : 3, "
+                                            "Except begin : '00'") +
+                                    '\0');
+    testhost::Tracing on;
+    EXPECT_FALSE(paris.isLocalNumber("1234"));
+    EXPECT_EQ(testhost::lines(),
+              std::vector<std::string>{"DEBUG N9numbering16KesDialRulesItemE - isLocalNumber('1234')=false"});
 }
 
-TEST_F(DialRulesItem, ToStringEndsWithNul) {
-    KesDialRulesItem rules("FR", "0", 4, "1, 2", 3, "00");
-    std::string expected = "CountryCode : 'FR', External Prefix : '0', Local length : 4, AreaCode : '1', "
-                           "m_areaCodesList :  '1' '2', Except length : 3, Except begin : '00'";
-    EXPECT_EQ(rules.ToString(), expected + '\0');
+// A host's installation from its site file: every setting reaches the KesDialRulesItem; the tool's
+// tests cover the findings of check().
+TEST_F(DialRulesItem, SiteFileMakesTheHostsInstallation) {
+    const std::string path = testconfig::directory() + "site.properties";
+    testconfig::write("site.properties", "# Paris\ncountry = FR\next_prefix = 9\narea_codes = 1, 2\n"
+                                         "local_length = 5\nexcept_length = 3\nexcept_begin = 11\n");
+    EXPECT_TRUE(KesSiteFile::read(path).check().empty());
+    const std::unique_ptr<KesDialRulesItem> rules = KesSiteFile::read(path).makeDialRulesItem();
+    EXPECT_EQ(rules->ToString(), KesDialRulesItem("FR", "9", 5, "1, 2", 3, "11").ToString());
+    testconfig::write("site.properties", "country = DE\n");
+    const KesSiteFile elsewhere = KesSiteFile::read(path);
+    ASSERT_EQ(elsewhere.check().size(), 1u);
+    EXPECT_EQ(elsewhere.check()[0].line, 1);
+    EXPECT_THROW(elsewhere.makeDialRulesItem(), KesUnsupportedCountryException);
+    EXPECT_THROW(KesSiteFile::read(testconfig::directory() + "missing.properties"), std::runtime_error);
 }

@@ -1,26 +1,12 @@
-#include "TestConfig.h"
-#include "TestHost.h"
+#include "Suite.h"
 
-#include "numbering/KesCountryRuleItem.h"
-#include "numbering/KesDialRulesItem.h"
-#include "numbering/KesDialable.h"
-#include "numbering/KesDialableManager.h"
 #include "numbering/KesDialable_52.h"
 #include "numbering/KesDialable_54.h"
 #include "numbering/KesDialable_57.h"
 #include "numbering/KesDialable_61.h"
 #include "numbering/KesDialable_7.h"
-#include "numbering/KesNumberingRules.h"
 
-#include <Poco/AutoPtr.h>
-#include <gtest/gtest.h>
-
-#include <stdexcept>
-#include <string>
 #include <typeinfo>
-#include <vector>
-
-using namespace numbering;
 
 namespace {
 
@@ -45,15 +31,14 @@ std::string longDist(KesDialable& strategy, std::string area, std::string number
 
 /// The standard world ("RU" has the long-distance prefix "8", "AR" and "CO" have "0"), the
 /// Argentine area codes 11 and 351 and the Colombian operators.
-class CountryStrategies : public ::testing::Test {
+class CountryStrategies : public testconfig::WorldTest {
 protected:
     void SetUp() override {
-        testconfig::useStandardWorld();
+        testconfig::useWorld();
         testconfig::write("tz310cnp_54.properties", "Translate=1\nAC_0000=11\nAC_0001=351\n");
         testconfig::write("tz310cnp_57.properties",
                           "OP_DEFAULT=456\nOP_0000=456\nOP_0001=47 Comcel\nOP_0003=9\n");
     }
-    void TearDown() override { testconfig::reload(); }
 };
 
 } // namespace
@@ -166,89 +151,66 @@ TEST_F(CountryStrategies, ColombianOperatorsUpToTheFirstGap) {
     EXPECT_EQ(longDist(withoutFile, "1", "2345678", rule.get(), nullptr), "0912345678");
 }
 
-// The subscriber number stands where the country code belongs: kept as installations dial it.
-TEST_F(CountryStrategies, ColombianInternationalFormRepeatsTheNumber) {
+// International numbers: the generic strategy reads the letters of the international rule and
+// looks the destination's national prefix up in the store (the United Kingdom writes "0"); the
+// Colombian one puts the subscriber number where the country code belongs, as installations dial it.
+TEST_F(CountryStrategies, InternationalNumbers) {
     testconfig::remove("tz310cnp_57.properties");
+    KesDialable generic;
     KesDialable_57 colombia;
-    const char* const cases[][4] = {
-        // rule, country, area, expected
-        {"EF", "34", "91", "0091234567911234567"},
-        {"EF", "33", "0", "00912345671234567"}, // the destination's national prefix is dropped
-        {"E", "34", "91", "00912345671234567"},
-        {"F", "34", "91", "009911234567"},
+    const char* const cases[][6] = {
+        // strategy, rule, country, area, number, expected
+        // Letters other than E, F and I are ignored.
+        {"", "EFG", "49", "89", "123456", "004989123456"},
+        {"", "E", "49", "89", "123456", "0049123456"},
+        {"", "F", "49", "89", "123456", "0089123456"},
+        {"", "", "49", "89", "123456", "00123456"},
+        // The destination's national prefix in place of an area code is dropped, on an exact match only.
+        {"", "EF", "44", "0", "2071234567", "00442071234567"},
+        {"", "EF", "44", "01", "234567", "004401234567"},
+        // A destination the store does not know keeps its area field.
+        {"", "EF", "999", "0", "1234", "0099901234"},
+        {"57", "EF", "34", "91", "1234567", "0091234567911234567"},
+        {"57", "EF", "33", "0", "1234567", "00912345671234567"},
+        {"57", "E", "34", "91", "1234567", "00912345671234567"},
+        {"57", "F", "34", "91", "1234567", "009911234567"},
     };
     for (const auto& c : cases) {
-        Rule rule = ruleOf("57", "0", c[0]);
-        std::string country = c[1], area = c[2], number = "1234567";
-        EXPECT_EQ(colombia.makeInternationalDialableNumber(country, area, number, rule.get()), c[3])
-            << c[0] << " " << c[1] << " " << c[2];
+        Rule rule(new KesCountryRuleItem("33", "00", c[1], "0F", "", "Test"));
+        std::string country = c[2], area = c[3], number = c[4];
+        KesDialable& strategy = c[0][0] != '\0' ? colombia : generic;
+        EXPECT_EQ(strategy.makeInternationalDialableNumber(country, area, number, rule.get()), c[5])
+            << c[0] << " " << c[1] << " " << c[2] << "/" << c[3] << "/" << c[4];
     }
 }
 
-// The generic strategy: the letters of the international rule, and the destination's national prefix
-// looked up in the store (the United Kingdom writes "0").
-TEST_F(CountryStrategies, GenericInternationalRuleLetters) {
-    KesDialable strategy;
-    struct Case {
-        std::string rule, country, area, number, expected;
-    };
-    const std::vector<Case> cases = {
-        // Letters other than E, F and I are ignored.
-        {"EFG", "49", "89", "123456", "004989123456"},
-        {"E", "49", "89", "123456", "0049123456"},
-        {"F", "49", "89", "123456", "0089123456"},
-        {"", "49", "89", "123456", "00123456"},
-        // The destination's national prefix in place of an area code is dropped, on an exact match only.
-        {"EF", "44", "0", "2071234567", "00442071234567"},
-        {"EF", "44", "01", "234567", "004401234567"},
-        // A destination the store does not know keeps its area field.
-        {"EF", "999", "0", "1234", "0099901234"},
-    };
-    for (const Case& c : cases) {
-        Rule rule(new KesCountryRuleItem("33", "00", c.rule, "0F", "", "Test"));
-        std::string country = c.country, area = c.area, number = c.number;
-        EXPECT_EQ(strategy.makeInternationalDialableNumber(country, area, number, rule.get()), c.expected)
-            << c.rule << " " << c.country << "/" << c.area << "/" << c.number;
-    }
-}
-
+// The generic long-distance and local rules complete the prefix, never double it; "I" puts the
+// prefix without the area code.
 TEST_F(CountryStrategies, GenericLongDistanceAndLocalRulesMergeThePrefix) {
     KesDialable strategy;
-    struct Case {
-        std::string rule, area, number, expected;
-    };
-    const std::vector<Case> cases = {
-        {"0F", "4", "76112233", "0476112233"},
-        // The prefix is completed, never doubled.
-        {"0F", "04", "76112233", "0476112233"},
-        {"01F", "0234", "5", "012345"},
-        // "I": the prefix without the area code.
-        {"0I", "4", "76112233", "076112233"},
-        {"", "4", "76112233", "76112233"},
-        {"F", "1", "234", "1234"},
-    };
+    const char* const cases[][4] = {
+        {"0F", "4", "76112233", "0476112233"}, {"0F", "04", "76112233", "0476112233"},
+        {"01F", "0234", "5", "012345"},        {"0I", "4", "76112233", "076112233"},
+        {"", "4", "76112233", "76112233"},     {"F", "1", "234", "1234"}};
     KesDialRulesItem rules;
-    for (const Case& c : cases) {
-        Rule longDist(new KesCountryRuleItem("33", "00", "EF", c.rule, "", "Test"));
-        Rule local(new KesCountryRuleItem("33", "00", "EF", "", c.rule, "Test"));
-        std::string area = c.area, number = c.number;
-        EXPECT_EQ(strategy.makeLongDistDialableNumber(area, number, longDist.get(), &rules), c.expected)
-            << "long distance " << c.rule << " " << c.area << "/" << c.number;
-        EXPECT_EQ(strategy.makeLocalDialableNumber(area, number, local.get()), c.expected)
-            << "local " << c.rule << " " << c.area << "/" << c.number;
+    for (const auto& c : cases) {
+        Rule longDist(new KesCountryRuleItem("33", "00", "EF", c[0], "", "Test"));
+        Rule local(new KesCountryRuleItem("33", "00", "EF", "", c[0], "Test"));
+        std::string area = c[1], number = c[2];
+        EXPECT_EQ(strategy.makeLongDistDialableNumber(area, number, longDist.get(), &rules), c[3])
+            << c[0] << c[1];
+        EXPECT_EQ(strategy.makeLocalDialableNumber(area, number, local.get()), c[3]) << c[0] << c[1];
     }
 }
 
 // The manager lends each country its strategy, made once: five countries have classes of their own.
 TEST_F(CountryStrategies, TheManagerLendsEachCountryItsStrategy) {
     KesDialableManager* manager = KesDialableManager::getInstance();
-    EXPECT_NE(dynamic_cast<KesDialable_7*>(manager->getDialable("7")), nullptr);
-    EXPECT_NE(dynamic_cast<KesDialable_52*>(manager->getDialable("52")), nullptr);
-    EXPECT_NE(dynamic_cast<KesDialable_54*>(manager->getDialable("54")), nullptr);
-    EXPECT_NE(dynamic_cast<KesDialable_57*>(manager->getDialable("57")), nullptr);
-    EXPECT_NE(dynamic_cast<KesDialable_61*>(manager->getDialable("61")), nullptr);
-    KesDialable* generic = manager->getDialable("999");
-    EXPECT_EQ(typeid(*generic), typeid(KesDialable));
+    const std::pair<const char*, const std::type_info*> strategies[] = {
+        {"7", &typeid(KesDialable_7)},   {"52", &typeid(KesDialable_52)}, {"54", &typeid(KesDialable_54)},
+        {"57", &typeid(KesDialable_57)}, {"61", &typeid(KesDialable_61)}, {"999", &typeid(KesDialable)}};
+    for (const auto& [code, type] : strategies)
+        EXPECT_EQ(typeid(*manager->getDialable(code)), *type) << code;
     EXPECT_EQ(manager->getDialable("57"), manager->getDialable("57"));
     EXPECT_EQ(manager->getDialable(""), nullptr);
 }

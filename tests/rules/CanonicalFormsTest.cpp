@@ -2,13 +2,7 @@
 // masks, the decomposition and the compact GSM form.
 #include "FacadeWorld.h"
 
-#include <string>
-
-using namespace numbering;
-
-namespace {
-
-class CanonicalForms : public facadeworld::FacadeTest {};
+using CanonicalForms = facadeworld::FacadeTest;
 
 TEST_F(CanonicalForms, DefaultCanonicalNumbers) {
     const std::string cases[][4] = {
@@ -113,5 +107,3 @@ TEST_F(CanonicalForms, GsmForm) {
         testhost::logged("DEBUG N9numbering17KesNumberingRulesE - formatToGSMCanonicalNumber('+46 8'"));
     EXPECT_TRUE(testhost::logged("Can't apply pattern to number : '+46 8'"));
 }
-
-} // namespace

@@ -1,13 +1,8 @@
 #include "FacadeWorld.h"
 
-#include <string>
+#include <new>
 
-using namespace numbering;
-using facadeworld::FacadeTest;
-
-namespace {
-
-class CanonicalNumber : public FacadeTest {};
+using CanonicalNumber = facadeworld::FacadeTest;
 
 // Sweden and its neighbours have no plan, so the generic rules decide from their prefixes; France,
 // Colombia and New Zealand have one.
@@ -73,9 +68,7 @@ TEST_F(CanonicalNumber, TypedNumbers) {
         testhost::Tracing tracing;
         EXPECT_EQ(facade->makeCanonicalNumber(c.rules, c.typed, "", c.withExternalPrefix), c.expected)
             << "typed '" << c.typed << "'";
-        if (c.traced != nullptr) {
-            EXPECT_TRUE(testhost::logged(c.traced)) << c.traced;
-        }
+        EXPECT_TRUE(c.traced == nullptr || testhost::logged(c.traced)) << c.traced;
         // A failure writes one error line; an outside-line prefix that cannot be removed writes none.
         const int errors = c.expected.empty() && !c.withExternalPrefix ? 1 : 0;
         EXPECT_EQ(testhost::countLogged("makeCanonicalNumber exception: "), errors) << c.typed;
@@ -125,4 +118,30 @@ TEST_F(CanonicalNumber, OtherFormsCallTheFourArgumentForm) {
     EXPECT_EQ(fixed.makeGSMCanonicalNumber(&rules, "1", false), "+4681234");
 }
 
-} // namespace
+/// Stockholm rules whose look-ups fail with `Error`, which no conversion expects.
+template <class Error> struct FailingRules : KesDialRulesItem {
+    FailingRules() : KesDialRulesItem("SE", "0", 0, "8", 0, "") {}
+    int getLocalNbLength() override { throw Error(); }
+    std::string getExtPrefix() override { throw Error(); }
+};
+struct NotAStandardError {};
+
+// An error that is not the one a conversion expects gives an empty result and one error line.
+TEST_F(CanonicalNumber, UnexpectedErrors) {
+    FailingRules<std::bad_alloc> outOfMemory;
+    FailingRules<NotAStandardError> unknown;
+    for (KesDialRulesItem* rules : std::initializer_list<KesDialRulesItem*>{&outOfMemory, &unknown}) {
+        const std::string error = rules == &outOfMemory ? "std::bad_alloc" : "...";
+        testhost::clear();
+        EXPECT_EQ(facade->makeCanonicalNumber(rules, " 0812345 ", "P"), "");
+        EXPECT_EQ(facade->makePhoneNumber(rules, " 0812345 "), "");
+        EXPECT_EQ(testhost::lines(),
+                  (std::vector<std::string>{
+                      facadeworld::withDialRules("KesNumberingRules::makeCanonicalNumber exception: " +
+                                                     error + " - PhoneNumber: '0812345', Pattern: 'P'",
+                                                 *rules),
+                      facadeworld::withDialRules("KesNumberingRules::makePhoneNumber exception: " + error +
+                                                     " - PhoneNumber: '0812345'",
+                                                 *rules)}));
+    }
+}

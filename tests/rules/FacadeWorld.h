@@ -5,16 +5,7 @@
 // and Norway have no numbering plan, so the generic rules alone decide their canonical numbers;
 // France, Germany, Colombia and New Zealand have one.
 
-#include "TestConfig.h"
-#include "TestHost.h"
-
-#include "numbering/KesDialRulesItem.h"
-#include "numbering/KesNumberingRules.h"
-
-#include <gtest/gtest.h>
-
-#include <stdexcept>
-#include <string>
+#include "Suite.h"
 
 namespace facadeworld {
 
@@ -37,11 +28,8 @@ inline const char* const DIALING_RULES =
 class FacadeTest : public ::testing::Test {
 protected:
     void SetUp() override {
-        testconfig::clearAll();
-        testconfig::write("dialingrules.properties", DIALING_RULES);
-        testconfig::write("dlr_cnp_mask.properties", testconfig::identityMasks());
-        testconfig::reload();
-        facade = numbering::KesNumberingRules::getInstance();
+        testconfig::useWorld(DIALING_RULES);
+        facade = KesNumberingRules::getInstance();
         testhost::clear();
     }
 
@@ -51,34 +39,24 @@ protected:
     void useMasks(const std::string& masks) {
         testconfig::write("dlr_cnp_mask.properties", masks);
         testconfig::reload();
-        facade = numbering::KesNumberingRules::getInstance();
+        facade = KesNumberingRules::getInstance();
     }
 
-    numbering::KesNumberingRules* facade = nullptr;
+    KesNumberingRules* facade = nullptr;
 };
 
 /// An installation in Stockholm (area code 8) that seizes an outside line with "0".
-inline numbering::KesDialRulesItem stockholm(int localNbLength = 0, const std::string& exceptNbBegin = "") {
-    return numbering::KesDialRulesItem("SE", "0", localNbLength, "8", 0, exceptNbBegin);
+inline KesDialRulesItem stockholm(int localNbLength = 0, const std::string& exceptNbBegin = "") {
+    return KesDialRulesItem("SE", "0", localNbLength, "8", 0, exceptNbBegin);
 }
 
 /// An installation in Paris (area code 1) that seizes an outside line with "0".
-inline numbering::KesDialRulesItem paris(int localNbLength = 0, const std::string& exceptNbBegin = "") {
-    return numbering::KesDialRulesItem("FR", "0", localNbLength, "1", 0, exceptNbBegin);
-}
-
-/// The text of the std::invalid_argument that `call` throws, or "nothing thrown".
-template <class Call> std::string invalidArgumentText(Call call) {
-    try {
-        call();
-    } catch (const std::invalid_argument& e) {
-        return e.what();
-    }
-    return "nothing thrown";
+inline KesDialRulesItem paris(int localNbLength = 0, const std::string& exceptNbBegin = "") {
+    return KesDialRulesItem("FR", "0", localNbLength, "1", 0, exceptNbBegin);
 }
 
 /// The error line a conversion logs for `rules` (the NUL that ends ToString() ends the line).
-inline std::string withDialRules(const std::string& head, numbering::KesDialRulesItem& rules) {
+inline std::string withDialRules(const std::string& head, KesDialRulesItem& rules) {
     return "ERROR N9numbering17KesNumberingRulesE - " + head + "\n  DialRules: " + rules.ToString().c_str();
 }
 

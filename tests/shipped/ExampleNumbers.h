@@ -10,19 +10,16 @@
 namespace shipped {
 
 struct CountryExamples {
-    std::string iso2;
-    std::string callingCode;
+    std::string iso2, callingCode;
     std::string nationalPrefix; // empty where the country has no trunk prefix
     std::string internationalPrefix;
     std::string fixed;  // national significant number: no trunk prefix, no calling code
     std::string mobile; // may be empty
 };
 
-/// Every row of the file, in file order (read once). Empty when the file cannot be read or holds a
-/// malformed line; then readError() says why.
+/// Every row of the file, in file order (read once); a file that cannot be read or holds a
+/// malformed line stops the test program with the reason.
 const std::vector<CountryExamples>& exampleNumbers();
-const std::string& readError();
-
 /// The row of one country, or null.
 const CountryExamples* examplesOf(const std::string& iso2);
 

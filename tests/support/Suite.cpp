@@ -1,13 +1,52 @@
-#include "TestConfig.h"
+#include "Suite.h"
 
-#include "numbering/KesNumberingConfig.h"
-#include "numbering/KesNumberingRules.h"
-
+#include <algorithm>
 #include <cstdio>
 #include <dirent.h>
 #include <fstream>
-#include <stdexcept>
+#include <mutex>
 #include <sys/stat.h>
+
+bool Logger::m_Traces = false;
+
+namespace {
+std::mutex linesMutex; // a host's sink must take lines from several threads at once
+}
+
+void FlogWrite(const char* text, short /*value*/) {
+    std::lock_guard<std::mutex> lock(linesMutex);
+    testhost::lines().emplace_back(text);
+}
+
+namespace testhost {
+
+std::vector<std::string>& lines() {
+    static std::vector<std::string> received;
+    return received;
+}
+
+void clear() {
+    std::lock_guard<std::mutex> lock(linesMutex);
+    lines().clear();
+}
+
+int countLogged(const std::string& text) {
+    std::lock_guard<std::mutex> lock(linesMutex);
+    return static_cast<int>(std::count_if(lines().begin(), lines().end(), [&](const std::string& line) {
+        return line.find(text) != std::string::npos;
+    }));
+}
+
+Tracing::Tracing(bool on) : previous(Logger::m_Traces) {
+    Logger::m_Traces = on;
+    clear();
+}
+
+Tracing::~Tracing() {
+    Logger::m_Traces = previous;
+}
+
+} // namespace testhost
 
 namespace testconfig {
 
@@ -31,7 +70,7 @@ const char* const STANDARD_DIALING_RULES = "AR = 54:00:EF:0F::Argentina:P\n"
                                            "US = 1:011:EF:1F::United States:P\n";
 
 std::string directory() {
-    return numbering::KesNumberingConfig::configDirectory();
+    return KesNumberingConfig::configDirectory();
 }
 
 void write(const std::string& fileName, const std::string& content) {
@@ -58,11 +97,6 @@ void clearAll() {
     ::closedir(dir);
 }
 
-// The facade tears down the plan and strategy caches and the store with itself.
-void reload() {
-    numbering::KesNumberingRules::resetInstance();
-}
-
 const std::string& identityMasks() {
     static const std::string masks = [] {
         std::string text;
@@ -73,9 +107,9 @@ const std::string& identityMasks() {
     return masks;
 }
 
-void useStandardWorld() {
+void useWorld(const std::string& dialingRules) {
     clearAll();
-    write("dialingrules.properties", STANDARD_DIALING_RULES);
+    write("dialingrules.properties", dialingRules);
     write("dlr_cnp_mask.properties", identityMasks());
     reload();
 }
