@@ -72,6 +72,9 @@ TEST_F(CanonicalNumber, TypedNumbers) {
         // A failure writes one error line; an outside-line prefix that cannot be removed writes none.
         const int errors = c.expected.empty() && !c.withExternalPrefix ? 1 : 0;
         EXPECT_EQ(testhost::countLogged("makeCanonicalNumber exception: "), errors) << c.typed;
+        std::string appended = "<";
+        facade->appendCanonicalNumber(c.rules, c.typed, "", c.withExternalPrefix, appended);
+        EXPECT_EQ(appended, "<" + c.expected);
     }
 }
 
@@ -116,6 +119,10 @@ TEST_F(CanonicalNumber, OtherFormsCallTheFourArgumentForm) {
     KesDialRulesItem rules = facadeworld::stockholm();
     EXPECT_EQ(fixed.makeCanonicalNumber(&rules, "1", "5"), "+46 (8) 12345");
     EXPECT_EQ(fixed.makeGSMCanonicalNumber(&rules, "1", false), "+4681234");
+    std::string appended;
+    fixed.appendCanonicalNumber(&rules, "1", "5", false, appended);
+    fixed.appendGSMCanonicalNumber(&rules, "1", false, appended);
+    EXPECT_EQ(appended, "+46 (8) 12345+4681234");
 }
 
 /// Stockholm rules whose look-ups fail with `Error`, which no conversion expects.
