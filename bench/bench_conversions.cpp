@@ -111,6 +111,25 @@ void MakeGSMCanonicalNumber(benchmark::State& state) {
     });
 }
 
+/// The bulk caller's way: each result appended to a string reused from one number to the next.
+void AppendCanonicalNumber(benchmark::State& state) {
+    std::string line;
+    overConversions(state, workload().typed, [&line](const Conversion& c) {
+        line.clear();
+        facade()->appendCanonicalNumber(c.rules, c.number, "", false, line);
+        benchmark::DoNotOptimize(line.data());
+    });
+}
+
+void AppendGSMCanonicalNumber(benchmark::State& state) {
+    std::string line;
+    overConversions(state, workload().typed, [&line](const Conversion& c) {
+        line.clear();
+        facade()->appendGSMCanonicalNumber(c.rules, c.number, false, line);
+        benchmark::DoNotOptimize(line.data());
+    });
+}
+
 void FormatCanonicalNumber(benchmark::State& state) {
     overConversions(state, workload().canonical, [](const Conversion& c) {
         benchmark::DoNotOptimize(facade()->formatCanonicalNumber(c.number, ""));
@@ -194,6 +213,8 @@ void MakeCanonicalNumberWhileReloading(benchmark::State& state) {
 // The first number of threads is the reference for the second.
 BENCHMARK(MakeCanonicalNumber)->Threads(1)->Threads(2)->UseRealTime();
 BENCHMARK(MakeGSMCanonicalNumber)->Threads(1)->Threads(2)->UseRealTime();
+BENCHMARK(AppendCanonicalNumber)->Threads(1)->Threads(2)->UseRealTime();
+BENCHMARK(AppendGSMCanonicalNumber)->Threads(1)->Threads(2)->UseRealTime();
 BENCHMARK(MakePhoneNumber)->Threads(1)->Threads(2)->UseRealTime();
 BENCHMARK(MakeClid)->Threads(1)->Threads(2)->UseRealTime();
 BENCHMARK(FormatCanonicalNumber)->Threads(1)->Threads(2)->UseRealTime();

@@ -4,6 +4,7 @@
 #include "numbering/Export.h"
 
 #include <string>
+#include <string_view>
 #include <vector>
 
 class Logger;
@@ -55,6 +56,8 @@ public:
     virtual bool isLocalNumber(std::string number);
     /// Begins with the exception digits (the exception length plays no part).
     virtual bool isExceptionNumber(std::string number);
+    /// isExceptionNumber(number) without its trace and without a copy of the number.
+    bool beginsWithExceptionDigits(std::string_view number) const;
     /// All fields on one line, closed by a NUL character that is part of the text.
     virtual std::string ToString();
 

@@ -61,9 +61,9 @@ std::string KesAreaCodePlan::convertInTwoPasses(const TwoPassRules& plan, const 
         number.size() - prefix.size() <= LONGEST_BEHIND_PREFIX) {
         current.remove_prefix(prefix.size());
         if (current[0] == '0')
-            return placeNational(plan, current, rules, planLogger, result) ? result : number;
+            return placeNational(plan, current, rules, planLogger, result) ? std::move(result) : number;
     }
-    return completeWithOwnAreaCode(plan.callingCode, current, rules, result) ? result : number;
+    return completeWithOwnAreaCode(plan.callingCode, current, rules, result) ? std::move(result) : number;
 }
 
 } // namespace numbering

@@ -12,7 +12,6 @@
 #include "common/NumberText.h"
 
 #include <algorithm>
-#include <array>
 #include <initializer_list>
 #include <string>
 #include <string_view>
@@ -111,45 +110,13 @@ struct CanonicalNumber {
         return joined({"+", lead, " ", subscriber});
     }
 
-    /// A string for a number too long to be held in the string itself: one the thread recycled,
-    /// else a new one.
-    static std::string takeSpare() {
-        for (std::string& kept : spares())
-            if (kept.capacity() > std::string().capacity())
-                return std::move(kept);
-        return std::string();
-    }
-
-    /// Keeps `used`, a string the conversion no longer needs, for the next long number the thread
-    /// writes: a conversion then allocates nothing but the string it returns.
-    static void recycle(std::string&& used) {
-        std::string* smallest = &spares()[0];
-        for (std::string& kept : spares())
-            if (kept.capacity() < smallest->capacity())
-                smallest = &kept;
-        if (used.capacity() > smallest->capacity())
-            *smallest = std::move(used);
-    }
-
 private:
-    /// The pieces one after the other, in one string: the thread's spare one when the text is too
-    /// long to be held in the string itself.
+    /// The pieces one after the other, in one string.
     static std::string joined(std::initializer_list<std::string_view> pieces) {
         TextCollector text;
         for (std::string_view piece : pieces)
             text.append(piece);
-        std::string written;
-        if (text.view().size() > written.capacity())
-            written = takeSpare();
-        written.assign(text.view());
-        return written;
-    }
-
-    /// Two: the typed number's and the canonical number's strings of one conversion.
-    static std::array<std::string, 2>& spares() {
-        // Initial-exec, as the conversion's own thread state: reached without a call.
-        static thread_local std::array<std::string, 2> kept __attribute__((tls_model("initial-exec")));
-        return kept;
+        return text.str();
     }
 
     /// The run of digits of `text` that begins at `i`; `i` moves past it.

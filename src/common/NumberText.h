@@ -8,6 +8,7 @@
 #include <Poco/Ascii.h>
 #include <Poco/String.h>
 
+#include <array>
 #include <string>
 #include <string_view>
 
@@ -83,6 +84,34 @@ inline std::string_view trimmed(std::string_view text) {
     return text.substr(begin, end - begin);
 }
 
+// The strings of a number too long to be held in the string itself: a conversion hands those it
+// no longer needs back with recycleString(), and the next long number the thread writes takes one
+// with spareString(), so that a conversion allocates nothing but the string it returns. Two: the
+// typed number's and the canonical number's strings of one conversion.
+inline std::array<std::string, 2>& spareStrings() {
+    // Initial-exec, as the conversion's own thread state: reached without a call.
+    static thread_local std::array<std::string, 2> kept __attribute__((tls_model("initial-exec")));
+    return kept;
+}
+
+/// A recycled string with room for more than a string holds in itself, else an empty one.
+inline std::string spareString() {
+    for (std::string& kept : spareStrings())
+        if (kept.capacity() > std::string().capacity())
+            return std::move(kept);
+    return std::string();
+}
+
+/// Keeps `used` for the next long number, in place of a smaller one.
+inline void recycleString(std::string&& used) {
+    std::string* smallest = &spareStrings()[0];
+    for (std::string& kept : spareStrings())
+        if (kept.capacity() < smallest->capacity())
+            smallest = &kept;
+    if (used.capacity() > smallest->capacity())
+        *smallest = std::move(used);
+}
+
 /// Collects the characters of a result that is usually short, on the stack while they fit, and
 /// makes the string at once: growing a std::string one character at a time costs more than the
 /// characters of a number themselves.
@@ -102,7 +131,14 @@ public:
             push(c);
     }
     std::string_view view() const { return spill.empty() ? std::string_view(buffer, length) : spill; }
-    std::string str() const { return std::string(view()); }
+    /// The characters, in a recycled string when they are many.
+    std::string str() const {
+        std::string text;
+        if (view().size() > text.capacity())
+            text = spareString();
+        text.assign(view());
+        return text;
+    }
 
 private:
     char buffer[48];

@@ -77,9 +77,13 @@ bool KesDialRulesItem::isLocalNumber(std::string number) {
     return local;
 }
 
-bool KesDialRulesItem::isExceptionNumber(std::string number) {
+bool KesDialRulesItem::beginsWithExceptionDigits(std::string_view number) const {
     // The exception length never changes the answer: only the leading digits count.
-    bool exception = !number.empty() && !exceptNbBegin.empty() && startsWith(number, exceptNbBegin);
+    return !number.empty() && !exceptNbBegin.empty() && startsWith(number, exceptNbBegin);
+}
+
+bool KesDialRulesItem::isExceptionNumber(std::string number) {
+    bool exception = beginsWithExceptionDigits(number);
     if (Logger::m_Traces)
         logger->debug("isExceptionNumber('" + number + "')=" + (exception ? "true" : "false"));
     return exception;

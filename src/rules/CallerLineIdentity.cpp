@@ -61,7 +61,7 @@ KesClid* KesNumberingRules::makeClid(KesDialRulesItem* myKesDialRulesItem, std::
             return new KesClid(std::move(sub), &KesEnumOrigin::PUBLIC_1);
         return new KesClid(std::string(area) + sub, &KesEnumOrigin::NATIONAL);
     }();
-    CanonicalNumber::recycle(std::move(can));
+    recycleString(std::move(can));
     return clid;
 }
 

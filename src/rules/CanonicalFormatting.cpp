@@ -9,6 +9,8 @@
 #include "numbering/KesNumberingConfig.h"
 #include "numbering/Logger.h"
 
+#include <utility>
+
 namespace numbering {
 
 std::string KesNumberingRules::generateDefaultCanonicalNumber(std::string strPhoneNumber,
@@ -129,6 +131,8 @@ std::string formatCanonical(Generation& generation, std::string strCanPhoneNumbe
             // Digits the mask did not place are never lost.
             result.append(parts.subscriber.substr(placed));
             // The number's own string takes the result: nothing left to read from it.
+            if (result.view().size() > strCanPhoneNumber.capacity())
+                recycleString(std::exchange(strCanPhoneNumber, spareString()));
             strCanPhoneNumber.assign(result.view());
             return std::move(strCanPhoneNumber);
         },

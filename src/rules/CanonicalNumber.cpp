@@ -218,6 +218,8 @@ bool readNationalForm(Generation& generation, TypedNumber& kind, const std::stri
     }
     if (!abroad)
         kind.number = std::move(digits);
+    else
+        recycleString(std::move(digits));
     return true;
 }
 
@@ -373,19 +375,19 @@ std::string KesNumberingRules::makeCanonicalNumber(KesDialRulesItem* myKesDialRu
                              ", Pattern: '" + strPattern + "'", myKesDialRulesItem);
         return std::string();
     });
-    CanonicalNumber::recycle(std::move(strPhoneNumber));
+    recycleString(std::move(strPhoneNumber));
     return result;
 }
 
 void KesNumberingRules::appendCanonicalNumber(KesDialRulesItem* myKesDialRulesItem,
                                               std::string_view strPhoneNumber, const std::string& strPattern,
                                               bool withExternalPrefix, std::string& out) {
-    std::string number = CanonicalNumber::takeSpare();
+    std::string number = spareString();
     number.assign(strPhoneNumber);
     std::string canonical =
         makeCanonicalNumber(myKesDialRulesItem, std::move(number), strPattern, withExternalPrefix);
     out += canonical;
-    CanonicalNumber::recycle(std::move(canonical));
+    recycleString(std::move(canonical));
 }
 
 std::string KesNumberingRules::checkPhoneNumber(std::string_view strPhoneNumber) {

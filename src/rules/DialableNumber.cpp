@@ -70,7 +70,7 @@ std::string KesNumberingRules::makeDialableNumber(KesDialRulesItem* myKesDialRul
             logger->debug("KesNumberingRules : makePhoneNumber Long Distance");
         dialled = dialable->makeLongDistDialableNumber(areaNatPfx, number, countryRule, myKesDialRulesItem);
     }
-    CanonicalNumber::recycle(std::move(strCanPhoneNumber));
+    recycleString(std::move(strCanPhoneNumber));
     return dialled;
 }
 

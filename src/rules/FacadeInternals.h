@@ -12,6 +12,7 @@
 
 #include <string>
 #include <string_view>
+#include <typeinfo>
 
 namespace numbering {
 
@@ -39,6 +40,10 @@ inline void traceExtract(const char* operation, std::string_view canonical) {
 inline bool outsideLinePrefixNeeded(KesDialRulesItem& rules, const std::string& number) {
     if (static_cast<long>(number.size()) < rules.getLocalNbLength())
         return false;
+    // The library's own rules answer without a copy of the number; a host's subclass, or a trace,
+    // needs the virtual test.
+    if (!Logger::m_Traces && typeid(rules) == typeid(KesDialRulesItem))
+        return !rules.beginsWithExceptionDigits(number);
     return !rules.isExceptionNumber(number);
 }
 

@@ -21,18 +21,18 @@ std::string KesNumberingRules::makeGSMCanonicalNumber(KesDialRulesItem* myKesDia
     if (!startsWith(can, '+'))
         return can;
     std::string gsm = formatToGsm(conversion.generation(), can);
-    CanonicalNumber::recycle(std::move(can));
+    recycleString(std::move(can));
     return gsm;
 }
 
 void KesNumberingRules::appendGSMCanonicalNumber(KesDialRulesItem* myKesDialRulesItem,
                                                  std::string_view strPhoneNumber, bool withExternalPrefix,
                                                  std::string& out) {
-    std::string number = CanonicalNumber::takeSpare();
+    std::string number = spareString();
     number.assign(strPhoneNumber);
     std::string gsm = makeGSMCanonicalNumber(myKesDialRulesItem, std::move(number), withExternalPrefix);
     out += gsm;
-    CanonicalNumber::recycle(std::move(gsm));
+    recycleString(std::move(gsm));
 }
 
 std::string KesNumberingRules::formatToGSMCanonicalNumber(std::string strCanPhoneNumber) {
