@@ -1,6 +1,7 @@
 #include "numbering/KesNumberingRules.h"
 
 #include "ConversionGuard.h"
+#include "Explaining.h"
 #include "FacadeInternals.h"
 #include "common/CanonicalNumber.h"
 #include "config/Store.h"
@@ -59,15 +60,21 @@ std::string KesNumberingRules::makeDialableNumber(KesDialRulesItem* myKesDialRul
     if (countryNumber != country) {
         if (Logger::m_Traces)
             logger->debug("KesNumberingRules : makePhoneNumber International");
+        if (KesExplanation* e = explaining())
+            e->route = KesExplanation::Route::International;
         return dialable->makeInternationalDialableNumber(country, areaNatPfx, number, countryRule);
     }
     if (std::find(areaCodes.begin(), areaCodes.end(), areaNatPfx) != areaCodes.end()) {
         if (Logger::m_Traces)
             logger->debug("KesNumberingRules : makePhoneNumber local with area code");
+        if (KesExplanation* e = explaining())
+            e->route = KesExplanation::Route::Local;
         return dialable->makeLocalDialableNumber(areaNatPfx, number, countryRule);
     }
     if (Logger::m_Traces)
         logger->debug("KesNumberingRules : makePhoneNumber Long Distance");
+    if (KesExplanation* e = explaining())
+        e->route = KesExplanation::Route::LongDistance;
     return dialable->makeLongDistDialableNumber(areaNatPfx, number, countryRule, myKesDialRulesItem);
 }
 
