@@ -33,6 +33,7 @@ numbering_sources(rules
   DialableNumber.cpp
   GsmCanonicalNumber.cpp
   KesConfigurationWatcher.cpp
+  KesExplanation.cpp
   KesNumberingRules.cpp
   PhoneNumber.cpp)
 

@@ -8,6 +8,7 @@
 #include "numbering/KesDialRulesItem.h"
 #include "numbering/KesNumberingConfig.h"
 #include "numbering/Logger.h"
+#include "rules/Explaining.h"
 
 #include <algorithm>
 #include <exception>
@@ -55,6 +56,8 @@ void KesAreaCodePlan::loadAreaCodes(const PlanFile& file, Logger* planLogger) {
 
 std::size_t KesAreaCodePlan::areaCodeAt(std::string_view national, Logger* planLogger) {
     std::size_t length = areaCodeTree->areaCodeLength(national);
+    if (KesExplanation* e = explaining())
+        e->areaCodeFound = length == 0 ? KesExplanation::AreaCode::Unknown : KesExplanation::AreaCode::Found;
     if (Logger::m_Traces) {
         std::string quoted = "'" + std::string(national) + "'";
         if (length == 0)
@@ -92,6 +95,8 @@ bool KesAreaCodePlan::completeWithOwnAreaCode(std::string_view callingCode, std:
     if (own.empty())
         return false;
     result = canonical(callingCode, own, local);
+    if (KesExplanation* e = explaining())
+        e->areaCodeFound = KesExplanation::AreaCode::OwnAreaCode;
     return true;
 }
 

@@ -1,6 +1,7 @@
 #include "numbering/KesNumberingRules.h"
 
 #include "ConversionGuard.h"
+#include "Explaining.h"
 #include "FacadeInternals.h"
 #include "common/CanonicalNumber.h"
 #include "config/Store.h"
@@ -76,6 +77,18 @@ std::string KesNumberingRules::formatCanonicalNumber(std::string strCanPhoneNumb
     return formatCanonical(conversion.generation(), std::move(strCanPhoneNumber), strPattern);
 }
 
+namespace {
+
+/// Records which mask lays a canonical number out, and the area part it reads.
+void explainLayout(KesExplanation& e, KesExplanation::Mask mask, const std::string& pattern,
+                   std::string_view area) {
+    e.mask = mask;
+    e.maskText = pattern;
+    e.areaCode.assign(area);
+}
+
+} // namespace
+
 std::string formatCanonical(Generation& generation, std::string strCanPhoneNumber,
                             const std::string& strPattern) {
     Logger* logger = KesNumberingRules::logger;
@@ -101,6 +114,12 @@ std::string formatCanonical(Generation& generation, std::string strCanPhoneNumbe
                 pattern = mask == nullptr ? &noMask : mask;
             }
             const CanonicalNumber parts = CanonicalNumber::readAtSeparators(strCanPhoneNumber);
+            if (KesExplanation* e = explaining())
+                explainLayout(*e,
+                              !strPattern.empty() ? KesExplanation::Mask::Given
+                              : pattern->empty()  ? KesExplanation::Mask::Missing
+                                                  : KesExplanation::Mask::Country,
+                              *pattern, parts.area);
             std::string_view::size_type placed = 0; // characters of the subscriber part passed
             TextCollector result;
             for (char c : *pattern) {

@@ -1,6 +1,7 @@
 #include "numbering/KesNumberingRules.h"
 
 #include "ConversionGuard.h"
+#include "Explaining.h"
 #include "FacadeInternals.h"
 #include "cnp/PlanCache.h"
 #include "common/CanonicalNumber.h"
@@ -73,6 +74,8 @@ bool collectPhoneCharacters(std::string_view number, TextCollector& out, bool& s
 std::string cleanNationalNumber(std::string_view strValid, bool& serviceCode) {
     TextCollector digits;
     if (!collectPhoneCharacters(strValid.substr(0, indexOf(strValid, '|')), digits, serviceCode)) {
+        if (KesExplanation* e = explaining())
+            e->kind = KesExplanation::Kind::NotAPhoneNumber;
         if (Logger::m_Traces)
             KesNumberingRules::logger->debug("MakeCanonical : wrong character in number : " +
                                              std::string(strValid));
@@ -95,11 +98,21 @@ bool readInternationalPrefix(Generation& generation, TypedNumber& kind, const st
         std::string_view(digits).substr(internatPfx.size() + opPrefix.size());
     const std::string_view countryNumber = afterPrefixes.substr(0, config.countryNumberLength(afterPrefixes));
     const KesNumberingConfig::Country* destination = config.findCountry(countryNumber);
+    KesExplanation* e = explaining();
     if (destination == nullptr) {
         if (Logger::m_Traces)
             logger->debug("International number detected but no country code was found '" + strPhoneNumber +
                           "'");
+        if (e != nullptr) {
+            e->kind = KesExplanation::Kind::UnknownCountry;
+            e->destinationCountry.clear();
+        }
         return false;
+    }
+    if (e != nullptr) {
+        e->kind = KesExplanation::Kind::International;
+        e->operatorPrefix = opPrefix;
+        e->destinationCountry = destination->code;
     }
     if (Logger::m_Traces)
         logger->debug("International number detected : '" + digits + "' with CountryCode '" +
@@ -124,6 +137,8 @@ bool isNationalByPrefix(const std::string& strPhoneNumber, KesCountryRuleItem* c
             if (Logger::m_Traces)
                 logger->debug("There is no difference between local and national phone number format'" +
                               strPhoneNumber + "'");
+            if (KesExplanation* e = explaining())
+                e->kind = KesExplanation::Kind::NationalAsLocal;
             return true;
         }
         return false;
@@ -131,6 +146,8 @@ bool isNationalByPrefix(const std::string& strPhoneNumber, KesCountryRuleItem* c
     if (startsWith(strPhoneNumber, ldp)) {
         if (Logger::m_Traces)
             logger->debug("National number detected '" + strPhoneNumber + "'");
+        if (KesExplanation* e = explaining())
+            e->kind = KesExplanation::Kind::National;
         return true;
     }
     return false;
@@ -159,7 +176,13 @@ void readInternationalForm(Generation& generation, TypedNumber& kind, const Cano
         if (Logger::m_Traces)
             KesNumberingRules::logger->debug("No country code found for country number '" +
                                              std::string(countryNumber) + "'");
+        if (KesExplanation* e = explaining())
+            e->kind = KesExplanation::Kind::UnknownCountry;
         return;
+    }
+    if (KesExplanation* e = explaining()) {
+        e->kind = KesExplanation::Kind::InternationalForm;
+        e->destinationCountry = country->code;
     }
     std::string national;
     appendDigits(strValid.substr(countryNumber.size() + 1), national);
@@ -200,6 +223,8 @@ bool readNationalForm(Generation& generation, TypedNumber& kind, const std::stri
     bool serviceCode = false;
     std::string digits = cleanNationalNumber(strValid, serviceCode);
     if (serviceCode) {
+        if (KesExplanation* e = explaining())
+            e->kind = KesExplanation::Kind::ServiceCode;
         kind.number = std::move(digits);
         return false;
     }
@@ -210,7 +235,12 @@ bool readNationalForm(Generation& generation, TypedNumber& kind, const std::stri
     const std::string& internatPfx = countryRule->internatPfxText();
     bool abroad = false; // the international prefix led to another country's national number
     // The prefix tests look at the number as typed, not at its digits.
-    if (outsideLinePrefixNeeded(*installation, typed)) {
+    const bool prefixNeeded = outsideLinePrefixNeeded(*installation, typed);
+    if (KesExplanation* e = explaining()) { // the tests below say more where they can
+        e->kind = prefixNeeded ? KesExplanation::Kind::Local : KesExplanation::Kind::Extension;
+        e->destinationCountry = kind.ownCountry;
+    }
+    if (prefixNeeded) {
         if (startsWith(typed, internatPfx))
             abroad = readInternationalPrefix(generation, kind, typed, digits, internatPfx, countryRule);
         else
@@ -279,7 +309,15 @@ std::string canonicalForm(Generation& generation, TypedNumber& kind, std::string
         !startsWith(kind.number, rules->getExtPrefix()) && !internationalForm) {
         if (Logger::m_Traces)
             KesNumberingRules::logger->debug("Nothing to do for" + kind.number);
+        if (KesExplanation* e = explaining())
+            e->plan = KesExplanation::Plan::LeftAlone;
         return std::move(kind.number);
+    }
+    if (KesExplanation* e = explaining()) {
+        e->plan =
+            plan != nullptr ? KesExplanation::Plan::CountryPlan : KesExplanation::Plan::NoPlanForCountry;
+        if (plan == nullptr && internationalForm && !strAreaCode.empty())
+            e->areaCodeFound = KesExplanation::AreaCode::AsWritten;
     }
     if (plan != nullptr)
         return canonicalByPlan(plan, std::move(kind.number), rules);

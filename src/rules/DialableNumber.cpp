@@ -1,6 +1,7 @@
 #include "numbering/KesNumberingRules.h"
 
 #include "ConversionGuard.h"
+#include "Explaining.h"
 #include "FacadeInternals.h"
 #include "common/CanonicalNumber.h"
 #include "config/Store.h"
@@ -57,19 +58,25 @@ std::string KesNumberingRules::makeDialableNumber(KesDialRulesItem* myKesDialRul
         return std::string();
 
     std::string dialled;
+    KesExplanation::Route route;
     if (countryNumber != country) {
         if (Logger::m_Traces)
             logger->debug("KesNumberingRules : makePhoneNumber International");
         dialled = dialable->makeInternationalDialableNumber(country, areaNatPfx, number, countryRule);
+        route = KesExplanation::Route::International;
     } else if (std::find(areaCodes.begin(), areaCodes.end(), areaNatPfx) != areaCodes.end()) {
         if (Logger::m_Traces)
             logger->debug("KesNumberingRules : makePhoneNumber local with area code");
         dialled = dialable->makeLocalDialableNumber(areaNatPfx, number, countryRule);
+        route = KesExplanation::Route::Local;
     } else {
         if (Logger::m_Traces)
             logger->debug("KesNumberingRules : makePhoneNumber Long Distance");
         dialled = dialable->makeLongDistDialableNumber(areaNatPfx, number, countryRule, myKesDialRulesItem);
+        route = KesExplanation::Route::LongDistance;
     }
+    if (KesExplanation* e = explaining())
+        e->route = route;
     recycleString(std::move(strCanPhoneNumber));
     return dialled;
 }

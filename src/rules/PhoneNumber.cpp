@@ -1,6 +1,7 @@
 #include "numbering/KesNumberingRules.h"
 
 #include "ConversionGuard.h"
+#include "Explaining.h"
 #include "FacadeInternals.h"
 #include "common/NumberText.h"
 #include "lifecycle/Conversion.h"
@@ -19,6 +20,26 @@ bool hadExternalPrefix(const std::string& number, const std::string& ext) {
     return !ext.empty() && (startsWith(number, ext) || startsWith(number, '+'));
 }
 
+/// Records the outside-line prefix decision below, for `dial` typed as `hadPrefix` says.
+void explainExternalPrefix(KesExplanation& e, KesDialRulesItem& rules, const std::string& ext, bool hadPrefix,
+                           const std::string& dial) {
+    using OutsideLine = KesExplanation::OutsideLine;
+    if (ext.empty()) {
+        e.outsideLine = OutsideLine::NoPrefix;
+        return;
+    }
+    if (outsideLinePrefixNeeded(rules, dial))
+        e.outsideLine = OutsideLine::Needed;
+    else if (hadPrefix)
+        e.outsideLine =
+            startsWith(Poco::trim(e.number), '+') ? OutsideLine::Canonical : OutsideLine::DialledWithPrefix;
+    else if (static_cast<long>(dial.size()) < rules.getLocalNbLength())
+        e.outsideLine = OutsideLine::InternalExtension;
+    else
+        e.outsideLine = OutsideLine::ExceptionNumber;
+    e.outsideLinePrefixAdded = e.outsideLine == OutsideLine::Needed || (hadPrefix && !startsWith(dial, ext));
+}
+
 /// The outside-line prefix decision shared by makePhoneNumber and addExternalPrefix: the prefix
 /// goes in front when the installation's rules want it. A number the user explicitly dialled with
 /// the prefix keeps it even where the rules would not add it (a short number, an exception).
@@ -26,6 +47,8 @@ std::string withExternalPrefix(KesNumberingRules& facade, KesDialRulesItem* rule
                                bool hadPrefix, std::string dial) {
     if (dial.empty())
         return dial;
+    if (KesExplanation* e = explaining())
+        explainExternalPrefix(*e, *rules, ext, hadPrefix, dial);
     if (facade.isPrefixNeeded(rules, dial))
         return ext + dial;
     if (!hadPrefix || startsWith(dial, ext))

@@ -24,6 +24,7 @@ const char* const USAGE =
     "  gsm         number -> compact international form (+ and digits)\n"
     "  format      canonical number -> laid out with --pattern or the country's mask\n"
     "  decompose   canonical number -> country number, area code, subscriber number (tab-separated)\n"
+    "  explain     one number -> every conversion's result and the decisions behind them\n"
     "  diff OLD_DIR NEW_DIR\n"
     "              canonical, dial, clid and gsm under two configuration directories -> one line for\n"
     "              each result that differs: input, command, old result, new result (tab-separated);\n"
@@ -116,8 +117,8 @@ Options parseOptions(int argc, char** argv) {
     if (positional.empty())
         throw std::invalid_argument("no command given");
     options.command = positional.front();
-    static const char* const commands[] = {"canonical", "dial",  "clid", "gsm", "format",
-                                           "decompose", "check", "init", "diff"};
+    static const char* const commands[] = {"canonical", "dial",  "clid", "gsm",  "format",
+                                           "decompose", "check", "init", "diff", "explain"};
     bool known = false;
     for (const char* command : commands)
         known = known || options.command == command;
@@ -133,6 +134,8 @@ Options parseOptions(int argc, char** argv) {
     options.numbers.assign(numbers, positional.end());
     if (options.command == "check" && !options.numbers.empty())
         throw std::invalid_argument("check takes no number");
+    if (options.command == "explain" && options.numbers.size() != 1)
+        throw std::invalid_argument("explain wants one number");
     if (options.command == "init" && options.numbers.size() > 1)
         throw std::invalid_argument("init takes one directory at most");
     return options;

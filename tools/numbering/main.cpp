@@ -3,6 +3,7 @@
 #include "ConfigurationDirectory.h"
 #include "Conversions.h"
 #include "Diff.h"
+#include "Explain.h"
 #include "Init.h"
 #include "Options.h"
 
@@ -70,6 +71,8 @@ int main(int argc, char** argv) {
     if (!hasDialingRules(directory))
         return 2;
     KesNumberingRules::reload(directory);
+    if (options.command == "explain")
+        return runExplain(options);
 
     return convertNumbers(options);
 }
