@@ -9,6 +9,7 @@
 #include "numbering/Logger.h"
 
 #include <algorithm>
+#include <typeinfo>
 
 namespace numbering {
 
@@ -40,6 +41,24 @@ void explainExternalPrefix(KesExplanation& e, KesDialRulesItem& rules, const std
     e.outsideLinePrefixAdded = e.outsideLine == OutsideLine::Needed || (hadPrefix && !startsWith(dial, ext));
 }
 
+/// facade.isPrefixNeeded(rules, dial), without a copy of the number when the facade is the
+/// library's own.
+bool prefixNeeded(KesNumberingRules& facade, KesDialRulesItem* rules, const std::string& dial) {
+    if (typeid(facade) == typeid(KesNumberingRules))
+        return outsideLinePrefixNeeded(*rules, dial);
+    return facade.isPrefixNeeded(rules, dial);
+}
+
+/// `ext` + `dial`, in a recycled string when long.
+std::string prefixed(const std::string& ext, std::string dial) {
+    std::string result;
+    if (ext.size() + dial.size() > result.capacity())
+        result = spareString();
+    result.assign(ext).append(dial);
+    recycleString(std::move(dial));
+    return result;
+}
+
 /// The outside-line prefix decision shared by makePhoneNumber and addExternalPrefix: the prefix
 /// goes in front when the installation's rules want it. A number the user explicitly dialled with
 /// the prefix keeps it even where the rules would not add it (a short number, an exception).
@@ -49,17 +68,19 @@ std::string withExternalPrefix(KesNumberingRules& facade, KesDialRulesItem* rule
         return dial;
     if (KesExplanation* e = explaining())
         explainExternalPrefix(*e, *rules, ext, hadPrefix, dial);
-    if (facade.isPrefixNeeded(rules, dial))
-        return ext + dial;
+    if (prefixNeeded(facade, rules, dial))
+        return prefixed(ext, std::move(dial));
     if (!hadPrefix || startsWith(dial, ext))
         return dial;
-    return ext + dial;
+    return prefixed(ext, std::move(dial));
 }
 
 /// The digits that dial `number` from the installation: its canonical form, dialled; "" when it has
 /// no canonical form.
 std::string dialledForm(KesNumberingRules& facade, KesDialRulesItem* rules, const std::string& number) {
-    std::string canonical = facade.makeCanonicalNumber(rules, number, "", false);
+    std::string typed = spareString(); // the number stays for the error line of a failure
+    typed.assign(number);
+    std::string canonical = facade.makeCanonicalNumber(rules, std::move(typed), "", false);
     return canonical.empty() ? canonical : facade.makeDialableNumber(rules, std::move(canonical));
 }
 
