@@ -2,6 +2,7 @@
 // standard input, and a message of the tool's own for every number that cannot be converted.
 #include "Conversions.h"
 
+#include "Batch.h"
 #include "Installation.h"
 #include "JsonLine.h"
 #include "Output.h"
@@ -20,7 +21,7 @@
 
 using namespace numbering;
 
-bool convertingNumbers = false;
+thread_local bool convertingNumbers = false;
 
 namespace {
 
@@ -53,7 +54,12 @@ std::unique_ptr<KesDialRulesItem> makeInstallation(const Options& options, bool 
 
 Parts convert(const std::string& command, const Options& options, KesNumberingRules* rules,
               KesDialRulesItem* installation, const std::string& number) {
-    auto one = [](std::string result) { return result.empty() ? Parts() : Parts{std::move(result)}; };
+    auto one = [](std::string result) {
+        Parts parts;
+        if (!result.empty())
+            parts.push_back(std::move(result)); // not Parts{...}: that copies
+        return parts;
+    };
     if (command == "canonical")
         return one(rules->makeCanonicalNumber(installation, number, options.pattern));
     if (command == "dial")
@@ -80,16 +86,17 @@ Parts convert(const std::string& command, const Options& options, KesNumberingRu
 namespace {
 
 /// The result line: the parts separated by tabs, behind the input and a tab in batch mode.
-std::string textLine(const std::string* input, const Parts& parts) {
-    std::string text = input != nullptr ? *input + '\t' : std::string();
+void addText(std::string& lines, const std::string* input, const Parts& parts) {
+    if (input != nullptr)
+        lines.append(*input) += '\t';
     for (std::size_t i = 0; i < parts.size(); ++i)
-        text += (i == 0 ? "" : "\t") + parts[i];
-    return text;
+        (i == 0 ? lines : lines += '\t') += parts[i];
+    lines += '\n';
 }
 
 /// The result as a JSON line: the parts named after what they are, and why there is none.
-std::string jsonLine(const std::string& command, const std::string& input, const Parts& parts,
-                     const std::string& error) {
+void addJson(std::string& lines, const std::string& command, const std::string& input, const Parts& parts,
+             const std::string& error) {
     JsonLine line;
     line.add("command", command).add("input", input);
     if (command == "decompose" && parts.size() == 3)
@@ -102,7 +109,7 @@ std::string jsonLine(const std::string& command, const std::string& input, const
         line.add("origin", parts[1]);
     if (!error.empty())
         line.add("error", error);
-    return line.text();
+    lines.append(line.text()) += '\n';
 }
 
 /// The number between quotes, its control characters shown as "\xNN" so that none reaches the terminal.
@@ -140,6 +147,44 @@ std::string whyNotConverted(const Options& options, const std::string& number) {
 
 } // namespace
 
+void LineConverter::add(const std::string& number, long line, Converted& into) const {
+    Parts parts;
+    std::string error;
+    const bool batch = line != 0;
+    if (!(batch && isBlank(number))) { // a blank line in a batch keeps its place, with no result
+        convertingNumbers = true;
+        try {
+            parts = convert(options.command, options, rules, installation, number);
+        } catch (const std::exception&) {
+            // only an empty number gets this far: whyNotConverted says so
+        }
+        convertingNumbers = false;
+        if (parts.empty()) {
+            ++into.failures;
+            error = whyNotConverted(options, number);
+            if (!options.json) // said once the results before it are out
+                into.messages.emplace_back(
+                    into.lines.size(),
+                    "numbering: " + (batch ? "line " + std::to_string(line) + ": " : "") + error + "\n");
+        }
+    }
+    if (options.json)
+        addJson(into.lines, options.command, number, parts, error);
+    else
+        addText(into.lines, batch ? &number : nullptr, parts);
+}
+
+void write(Output& output, const Converted& converted) {
+    std::size_t written = 0;
+    for (const auto& [at, message] : converted.messages) {
+        output.write(std::string_view(converted.lines).substr(written, at - written));
+        output.flush();
+        std::cerr << message;
+        written = at;
+    }
+    output.write(std::string_view(converted.lines).substr(written));
+}
+
 int convertNumbers(const Options& options) {
     KesNumberingRules* rules = KesNumberingRules::getInstance();
     std::unique_ptr<KesDialRulesItem> installation = makeInstallation(options);
@@ -147,44 +192,16 @@ int convertNumbers(const Options& options) {
         return 2;
 
     Output output;
+    const LineConverter converter{options, rules, installation.get()};
     int failures = 0;
-    long lineNumber = 0;
-    const bool batch = options.numbers.empty();
-    auto run = [&](const std::string& number) {
-        Parts parts;
-        std::string error;
-        if (!(batch && isBlank(number))) { // a blank line in a batch keeps its place, with no result
-            convertingNumbers = true;
-            try {
-                parts = convert(options.command, options, rules, installation.get(), number);
-            } catch (const std::exception&) {
-                // only an empty number gets this far: whyNotConverted says so
-            }
-            convertingNumbers = false;
-            if (parts.empty()) {
-                ++failures;
-                error = whyNotConverted(options, number);
-                if (!options.json) {
-                    output.flush(); // the message follows the results before it
-                    std::string where = batch ? "line " + std::to_string(lineNumber) + ": " : "";
-                    std::cerr << "numbering: " << where << error << "\n";
-                }
-            }
-        }
-        output.line({options.json ? jsonLine(options.command, number, parts, error)
-                                  : textLine(batch ? &number : nullptr, parts)});
-    };
-    if (batch) {
-        std::ios::sync_with_stdio(false);
-        for (std::string line; std::getline(std::cin, line);) {
-            ++lineNumber;
-            if (!line.empty() && line.back() == '\r') // a line ended by CRLF
-                line.pop_back();
-            run(line);
-        }
+    if (options.numbers.empty()) {
+        failures = convertBatch(converter, options.jobs > 0 ? options.jobs : availableCores(), output);
     } else {
+        Converted converted;
         for (const std::string& number : options.numbers)
-            run(number);
+            converter.add(number, 0, converted);
+        write(output, converted);
+        failures = converted.failures;
     }
     output.flush();
     installation.reset();

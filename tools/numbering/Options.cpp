@@ -48,19 +48,20 @@ const char* const USAGE =
     "  -p, --pattern MASK        display mask for canonical and format (letters C, A, a, x)\n"
     "      --config-dir DIR      configuration directory [the library's, else the shipped one]\n"
     "      --json                one JSON object per line instead of text\n"
+    "  -j, --jobs N              convert a batch on N threads [one for every core]\n"
     "      --trace               write the library's debug lines to standard error\n"
     "  -h, --help                this text\n"
     "      --version             the versions of the tool and of the library it runs on\n";
 
 namespace {
 
-int toLength(const std::string& option, const std::string& value) {
+int toWhole(const std::string& option, const std::string& value, long lowest = 0) {
     char* end = nullptr;
-    long length = std::strtol(value.c_str(), &end, 10);
-    if (value.empty() || *end != '\0' || length < 0 || length > 1000)
-        throw std::invalid_argument("option " + option + " wants a whole number from 0 to 1000, not '" +
-                                    value + "'");
-    return static_cast<int>(length);
+    long number = std::strtol(value.c_str(), &end, 10);
+    if (value.empty() || *end != '\0' || number < lowest || number > 1000)
+        throw std::invalid_argument("option " + option + " wants a whole number from " +
+                                    std::to_string(lowest) + " to 1000, not '" + value + "'");
+    return static_cast<int>(number);
 }
 
 } // namespace
@@ -93,13 +94,15 @@ Options parseOptions(int argc, char** argv) {
         else if (argument == "-a" || argument == "--area-codes")
             options.areaCodes = value(), given(KesSiteFile::AREA_CODES);
         else if (argument == "-l" || argument == "--local-length")
-            options.localLength = toLength(argument, value()), given(KesSiteFile::LOCAL_LENGTH);
+            options.localLength = toWhole(argument, value()), given(KesSiteFile::LOCAL_LENGTH);
         else if (argument == "--except-length")
-            options.exceptLength = toLength(argument, value()), given(KesSiteFile::EXCEPT_LENGTH);
+            options.exceptLength = toWhole(argument, value()), given(KesSiteFile::EXCEPT_LENGTH);
         else if (argument == "--except-begin")
             options.exceptBegin = value(), given(KesSiteFile::EXCEPT_BEGIN);
         else if (argument == "-p" || argument == "--pattern")
             options.pattern = value();
+        else if (argument == "-j" || argument == "--jobs")
+            options.jobs = toWhole(argument, value(), 1);
         else if (argument == "--config-dir")
             options.configDir = value();
         else if (argument == "--")

@@ -22,6 +22,7 @@ struct Options {
     std::string configDir; // empty: the library's directory if it exists, else the shipped configuration
     std::string oldDir;    // the two configurations that diff compares
     std::string newDir;
+    int jobs = 0; // batch workers; 0: one for every core the tool may run on
     bool json = false;
     bool trace = false;
     bool help = false;

@@ -22,10 +22,16 @@ void Output::line(std::initializer_list<std::string_view> fields) {
         flush();
 }
 
+void Output::write(std::string_view lines) {
+    text += lines;
+    if (interactive || text.size() >= CAPACITY)
+        flush();
+}
+
 void Output::flush() {
     if (!text.empty() && std::fwrite(text.data(), 1, text.size(), stdout) != text.size()) {
         std::fprintf(stderr, "numbering: cannot write the results: %s\n", std::strerror(errno));
-        std::exit(2);
+        std::_Exit(2); // at once: batch workers may still be converting
     }
     std::fflush(stdout);
     text.clear();

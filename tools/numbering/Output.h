@@ -15,6 +15,9 @@ public:
     /// Appends one line: the fields separated by tabs.
     void line(std::initializer_list<std::string_view> fields);
 
+    /// Appends text made of whole lines.
+    void write(std::string_view lines);
+
     /// Writes what is held; a failed write (a full disk, a closed pipe) ends the tool.
     void flush();
 
