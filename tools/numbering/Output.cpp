@@ -29,10 +29,11 @@ void Output::write(std::string_view lines) {
 }
 
 void Output::flush() {
-    if (!text.empty() && std::fwrite(text.data(), 1, text.size(), stdout) != text.size()) {
+    // stdio may hold a short text back: only the flush tells whether it was written.
+    if ((!text.empty() && std::fwrite(text.data(), 1, text.size(), stdout) != text.size()) ||
+        std::fflush(stdout) != 0) {
         std::fprintf(stderr, "numbering: cannot write the results: %s\n", std::strerror(errno));
         std::_Exit(2); // at once: batch workers may still be converting
     }
-    std::fflush(stdout);
     text.clear();
 }
