@@ -54,6 +54,7 @@ done <<EOF_REFUSED
 --bogus canonical 0123456789|unknown option --bogus
 -l many canonical 0123456789|option -l wants a whole number
 -l 1001 canonical 0123456789|option -l wants a whole number from 0 to 1000
+--jobs 0 canonical 0123456789|option --jobs wants a whole number from 1 to 1000
 -c|option -c wants a value
 frobnicate 0123456789|unknown command 'frobnicate'
 --config-dir $work canonical 0123456789|no dialing rules in $work/
