@@ -52,13 +52,12 @@ std::unique_ptr<KesDialRulesItem> makeInstallation(const Options& options, bool 
     return nullptr;
 }
 
-Parts convert(const std::string& command, const Options& options, KesNumberingRules* rules,
-              KesDialRulesItem* installation, const std::string& number) {
-    auto one = [](std::string result) {
-        Parts parts;
+void convert(const std::string& command, const Options& options, KesNumberingRules* rules,
+             KesDialRulesItem* installation, const std::string& number, Parts& parts) {
+    parts.clear(); // keeps its room: a batch makes no new one for every number
+    auto one = [&](std::string result) {
         if (!result.empty())
-            parts.push_back(std::move(result)); // not Parts{...}: that copies
-        return parts;
+            parts.push_back(std::move(result));
     };
     if (command == "canonical")
         return one(rules->makeCanonicalNumber(installation, number, options.pattern));
@@ -70,17 +69,16 @@ Parts convert(const std::string& command, const Options& options, KesNumberingRu
         return one(rules->formatCanonicalNumber(number, options.pattern));
     if (command == "decompose") {
         std::string country = rules->extractCountryNumberFromCanonicalNumber(number);
-        if (country.empty())
-            return Parts();
-        return {country, rules->extractAreaCodeOrNatPrefixFromCanonicalNumber(number),
-                rules->extractExtensionFromCanonicalNumber(number)};
+        if (!country.empty())
+            parts = {country, rules->extractAreaCodeOrNatPrefixFromCanonicalNumber(number),
+                     rules->extractExtensionFromCanonicalNumber(number)};
+        return;
     }
     KesClid* clid = rules->makeClid(installation, number);
     if (clid == nullptr)
-        return Parts();
-    Parts presented{clid->getNumber(), clid->getOrigin()->name};
+        return;
+    parts = {clid->getNumber(), clid->getOrigin()->name};
     clid->release();
-    return presented;
 }
 
 namespace {
@@ -148,15 +146,16 @@ std::string whyNotConverted(const Options& options, const std::string& number) {
 } // namespace
 
 void LineConverter::add(const std::string& number, long line, Converted& into) const {
-    Parts parts;
+    thread_local Parts parts;
+    parts.clear();
     std::string error;
     const bool batch = line != 0;
     if (!(batch && isBlank(number))) { // a blank line in a batch keeps its place, with no result
         convertingNumbers = true;
         try {
-            parts = convert(options.command, options, rules, installation, number);
+            convert(options.command, options, rules, installation, number, parts);
         } catch (const std::exception&) {
-            // only an empty number gets this far: whyNotConverted says so
+            parts.clear(); // only an empty number gets this far: whyNotConverted says so
         }
         convertingNumbers = false;
         if (parts.empty()) {

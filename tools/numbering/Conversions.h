@@ -31,9 +31,9 @@ std::unique_ptr<numbering::KesDialRulesItem> makeInstallation(const Options& opt
 /// number, area code and subscriber number (decompose); none when the library could not convert it.
 using Parts = std::vector<std::string>;
 
-/// One conversion by `command` (canonical, dial, clid, gsm, format, decompose).
-Parts convert(const std::string& command, const Options& options, numbering::KesNumberingRules* rules,
-              numbering::KesDialRulesItem* installation, const std::string& number);
+/// One conversion by `command` (canonical, dial, clid, gsm, format, decompose) into `parts`.
+void convert(const std::string& command, const Options& options, numbering::KesNumberingRules* rules,
+             numbering::KesDialRulesItem* installation, const std::string& number, Parts& parts);
 
 /// The result lines of numbers converted one after the other, and the tool's message about each
 /// number it could not convert, to be said on standard error once the lines before it are out.

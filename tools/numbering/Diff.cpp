@@ -80,13 +80,13 @@ bool convertSample(const std::string& directory, const Options& options, bool wa
     if (!installation)
         return false;
     convertingNumbers = true;
+    Parts parts;
     for (std::size_t number = 0; number < numbers.size(); ++number)
         for (std::size_t command = 0; command < COMMANDS.size(); ++command) {
-            Parts parts;
             try {
-                parts = convert(COMMANDS[command], options, rules, installation.get(), numbers[number]);
+                convert(COMMANDS[command], options, rules, installation.get(), numbers[number], parts);
             } catch (const std::exception&) {
-                // no result, as the conversion commands give none
+                parts.clear(); // no result, as the conversion commands give none
             }
             // A caller identity is number and origin: one field of the line.
             std::string result = parts.empty() ? std::string() : std::move(parts[0]);
