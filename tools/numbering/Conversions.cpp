@@ -145,11 +145,48 @@ std::string whyNotConverted(const Options& options, const std::string& number) {
 
 } // namespace
 
+namespace {
+
+/// Counts a number that could not be converted and, in text, says why once the output before `at`
+/// is out; returns why.
+std::string refuse(const Options& options, const std::string& number, long line, std::size_t at,
+                   Converted& into) {
+    ++into.failures;
+    std::string error = whyNotConverted(options, number);
+    if (!options.json)
+        into.messages.emplace_back(
+            at, "numbering: " + (line != 0 ? "line " + std::to_string(line) + ": " : "") + error + "\n");
+    return error;
+}
+
+} // namespace
+
 void LineConverter::add(const std::string& number, long line, Converted& into) const {
+    const bool batch = line != 0;
+    const std::size_t start = into.lines.size();
+    // A batch of canonical or GSM forms in text: the library writes the result into the line.
+    const bool appending = options.command == "canonical" || options.command == "gsm";
+    if (batch && appending && !options.json && !isBlank(number)) {
+        into.lines.append(number) += '\t';
+        const std::size_t result = into.lines.size();
+        convertingNumbers = true;
+        try {
+            if (options.command == "canonical")
+                rules->appendCanonicalNumber(installation, number, options.pattern, false, into.lines);
+            else
+                rules->appendGSMCanonicalNumber(installation, number, false, into.lines);
+        } catch (const std::exception&) {
+            into.lines.resize(result);
+        }
+        convertingNumbers = false;
+        if (into.lines.size() == result)
+            refuse(options, number, line, start, into);
+        into.lines += '\n';
+        return;
+    }
     thread_local Parts parts;
     parts.clear();
     std::string error;
-    const bool batch = line != 0;
     if (!(batch && isBlank(number))) { // a blank line in a batch keeps its place, with no result
         convertingNumbers = true;
         try {
@@ -158,14 +195,8 @@ void LineConverter::add(const std::string& number, long line, Converted& into) c
             parts.clear(); // only an empty number gets this far: whyNotConverted says so
         }
         convertingNumbers = false;
-        if (parts.empty()) {
-            ++into.failures;
-            error = whyNotConverted(options, number);
-            if (!options.json) // said once the results before it are out
-                into.messages.emplace_back(
-                    into.lines.size(),
-                    "numbering: " + (batch ? "line " + std::to_string(line) + ": " : "") + error + "\n");
-        }
+        if (parts.empty())
+            error = refuse(options, number, line, start, into);
     }
     if (options.json)
         addJson(into.lines, options.command, number, parts, error);
