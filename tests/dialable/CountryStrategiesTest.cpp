@@ -209,8 +209,10 @@ TEST_F(CountryStrategies, TheManagerLendsEachCountryItsStrategy) {
     const std::pair<const char*, const std::type_info*> strategies[] = {
         {"7", &typeid(KesDialable_7)},   {"52", &typeid(KesDialable_52)}, {"54", &typeid(KesDialable_54)},
         {"57", &typeid(KesDialable_57)}, {"61", &typeid(KesDialable_61)}, {"999", &typeid(KesDialable)}};
-    for (const auto& [code, type] : strategies)
-        EXPECT_EQ(typeid(*manager->getDialable(code)), *type) << code;
+    for (const auto& [code, type] : strategies) {
+        KesDialable& strategy = *manager->getDialable(code);
+        EXPECT_EQ(typeid(strategy), *type) << code;
+    }
     EXPECT_EQ(manager->getDialable("57"), manager->getDialable("57"));
     EXPECT_EQ(manager->getDialable(""), nullptr);
 }
