@@ -25,7 +25,9 @@ TEST(Logger, LineLayoutAndEscaping) {
                     {"DEBUG N9numbering4TestE - d", "ERROR N9numbering4TestE - first\\n\n  second\\x1b",
                      "ERROR N9numbering4TestE - cut"});
     EXPECT_EQ(testhost::lines(), expected);
-    EXPECT_NE(Logger::getLogger("N9numbering4TestE"), logger) << "a new logger for every call";
+    Logger* another = Logger::getLogger("N9numbering4TestE");
+    EXPECT_NE(another, logger) << "a new logger for every call";
+    delete another;
     delete logger;
 }
 
