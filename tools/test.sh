@@ -4,7 +4,8 @@
 # runs every test of the library three ways: the normal build (with the checks of what is shipped:
 # exported symbols, prefix install, Debian packages under lintian, generated configuration, and the
 # API reference without a Doxygen warning), the whole suite under AddressSanitizer and UBSan (with a
-# short run of each fuzzer), and the concurrency test under ThreadSanitizer.
+# short run of each fuzzer), and the concurrency test and the tool's batch on several jobs under
+# ThreadSanitizer.
 set -euo pipefail
 cd "$(dirname "$0")/.."
 
@@ -46,8 +47,8 @@ for target in conversions property_files; do
   rm -rf "$corpus" "$log"
 done
 
-echo "== ThreadSanitizer build of the concurrency test"
+echo "== ThreadSanitizer build of the concurrency test and of the tool's batch on several jobs"
 CXX=clang++ cmake -S . -B build-tsan -DCMAKE_BUILD_TYPE=RelWithDebInfo -DNUMBERING_SANITIZE=thread \
   -DNUMBERING_WERROR=ON >/dev/null
-cmake --build build-tsan -j"$jobs" --target test_concurrency
-TSAN_OPTIONS=halt_on_error=1 ctest --test-dir build-tsan -R '^concurrency$' --output-on-failure
+cmake --build build-tsan -j"$jobs" --target test_concurrency numbering
+TSAN_OPTIONS=halt_on_error=1 ctest --test-dir build-tsan -R '^(concurrency|tool_batch)$' --output-on-failure
