@@ -42,7 +42,8 @@ public:
         Found,       ///< the number begins with a known area code
         Unknown,     ///< the number begins with no known area code
         OwnAreaCode, ///< a number without national prefix, completed with the own area code
-        AsWritten    ///< the area code the number was written with (generic rules)
+        AsWritten,   ///< the area code the number was written with (generic rules)
+        PlanRule     ///< placed by the plan's own rule, without a list (France: the first digit)
     };
     /// Which mask laid the canonical number out.
     enum class Mask {

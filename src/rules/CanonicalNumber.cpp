@@ -273,7 +273,12 @@ std::string canonicalByPlan(KesCNP* plan, std::string number, KesDialRulesItem* 
     }
     if (Logger::m_Traces)
         logger->debug("Source number to be altered : '" + number + "'");
-    return plan->dlr_Country_MakeCanonicalNumber(std::move(number), rules);
+    std::string canonical = plan->dlr_Country_MakeCanonicalNumber(std::move(number), rules);
+    // A plan that places area codes without a list (France, North America, ...) says nothing itself.
+    if (KesExplanation* e = explaining())
+        if (e->areaCodeFound == KesExplanation::AreaCode::NotSought && startsWith(canonical, '+'))
+            e->areaCodeFound = KesExplanation::AreaCode::PlanRule;
+    return canonical;
 }
 
 /// The generic rules write an international or national number in canonical form; a number that

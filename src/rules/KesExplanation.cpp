@@ -114,7 +114,8 @@ const char* KesExplanation::name(Plan value) {
 }
 
 const char* KesExplanation::name(AreaCode value) {
-    static const char* const names[] = {"NotSought", "Found", "Unknown", "OwnAreaCode", "AsWritten"};
+    static const char* const names[] = {"NotSought",   "Found",     "Unknown",
+                                        "OwnAreaCode", "AsWritten", "PlanRule"};
     return nameIn(names, value);
 }
 

@@ -30,7 +30,7 @@ struct Case {
 };
 
 const Case CASES[] = {
-    {"FR 0 1", 4, "", "0123456789", E::Kind::National, "FR", E::Plan::CountryPlan, E::AreaCode::NotSought,
+    {"FR 0 1", 4, "", "0123456789", E::Kind::National, "FR", E::Plan::CountryPlan, E::AreaCode::PlanRule,
      E::Route::LongDistance, E::OutsideLine::Needed, true},
     {"FR 0 1", 4, "", "123", E::Kind::Extension, "FR", E::Plan::LeftAlone, E::AreaCode::NotSought,
      E::Route::None, E::OutsideLine::InternalExtension, false},
@@ -51,7 +51,7 @@ const Case CASES[] = {
     {"FR 0 1", 0, "", "*12#", E::Kind::ServiceCode, "", E::Plan::NotReached, E::AreaCode::NotSought,
      E::Route::None, E::OutsideLine::ServiceCode, false},
     {"FR", 0, "", "+33 1 23 45 67 89", E::Kind::InternationalForm, "FR", E::Plan::CountryPlan,
-     E::AreaCode::NotSought, E::Route::LongDistance, E::OutsideLine::NoPrefix, false},
+     E::AreaCode::PlanRule, E::Route::LongDistance, E::OutsideLine::NoPrefix, false},
 };
 
 KesDialRulesItem installationOf(const Case& c) {

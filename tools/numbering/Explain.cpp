@@ -74,9 +74,12 @@ std::string planInWords(const KesExplanation& e) {
 }
 
 std::string areaInWords(const KesExplanation& e) {
-    static const char* const words[] = {
-        "none looked for", "a known area code begins the number", "the number begins with no known area code",
-        "none typed: completed with the installation's own area code", "as written in the number"};
+    static const char* const words[] = {"none looked for",
+                                        "a known area code begins the number",
+                                        "the number begins with no known area code",
+                                        "none typed: completed with the installation's own area code",
+                                        "as written in the number",
+                                        "placed by the plan's own rule"};
     return said(e.areaCode) + " (" + words[static_cast<int>(e.areaCodeFound)] + ")";
 }
 
