@@ -33,13 +33,14 @@ public:
         const Table* current = table.load(std::memory_order_acquire);
         if (current == nullptr)
             return nullptr;
-        const std::uint64_t hash = hashOf(key);
+        const std::uint64_t head = headOf(key);
+        const std::uint64_t hash = hashOf(key, head);
         for (std::size_t i = hash & current->mask;; i = (i + 1) & current->mask) {
             Entry* entry = current->slots[i].load(std::memory_order_acquire);
             if (entry == nullptr)
                 return nullptr;
             // Keys of up to eight characters are told apart by their head, without a comparison call.
-            if (entry->hash == hash && entry->head == headOf(key) && entry->key.size() == key.size() &&
+            if (entry->hash == hash && entry->head == head && entry->key.size() == key.size() &&
                 (key.size() <= 8 || entry->key.compare(8, std::string::npos, key.substr(8)) == 0))
                 return &entry->value;
         }
@@ -50,8 +51,9 @@ public:
     Value& insert(std::string_view key, Value value) {
         if (Value* found = find(key))
             return *found;
+        const std::uint64_t head = headOf(key);
         Entry& entry =
-            entries.emplace_back(Entry{std::string(key), std::move(value), hashOf(key), headOf(key)});
+            entries.emplace_back(Entry{std::string(key), std::move(value), hashOf(key, head), head});
         const Table* current = table.load(std::memory_order_relaxed);
         if (current == nullptr || entries.size() * 2 > current->mask + 1)
             current = grow();
@@ -95,13 +97,18 @@ private:
 
     static std::uint64_t headOf(std::string_view key) { return packed(key, 0); }
 
-    static std::uint64_t hashOf(std::string_view key) {
-        std::uint64_t hash = 0x9E3779B97F4A7C15ull ^ key.size();
-        for (std::size_t i = 0; i < key.size(); i += 8) {
-            hash = (hash ^ packed(key, i)) * 0xFF51AFD7ED558CCDull;
-            hash ^= hash >> 32;
-        }
+    /// The key's hash, from its head (a key of up to eight characters, the usual code, is read once)
+    /// and each further eight characters.
+    static std::uint64_t hashOf(std::string_view key, std::uint64_t head) {
+        std::uint64_t hash = mixed(0x9E3779B97F4A7C15ull ^ key.size(), head);
+        for (std::size_t i = 8; i < key.size(); i += 8)
+            hash = mixed(hash, packed(key, i));
         return hash;
+    }
+
+    static std::uint64_t mixed(std::uint64_t hash, std::uint64_t word) {
+        hash = (hash ^ word) * 0xFF51AFD7ED558CCDull;
+        return hash ^ (hash >> 32);
     }
 
     static void place(const Table& into, Entry* entry, std::memory_order order) {
