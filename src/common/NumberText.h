@@ -105,6 +105,8 @@ inline std::string spareString() {
 
 /// Keeps `used` for the next long number, in place of a smaller one.
 inline void recycleString(std::string&& used) {
+    if (used.capacity() <= std::string().capacity())
+        return; // held in the string itself: nothing to keep
     std::string* smallest = &spareStrings()[0];
     for (std::string& kept : spareStrings())
         if (kept.capacity() < smallest->capacity())
