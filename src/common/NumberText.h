@@ -86,7 +86,7 @@ inline std::string_view trimmed(std::string_view text) {
 
 // The strings of a number too long to be held in the string itself: a conversion hands those it
 // no longer needs back with recycleString(), and the next long number the thread writes takes one
-// with spareString(), so that a conversion allocates nothing but the string it returns. Two: the
+// with spareCopyOf(), so that a conversion allocates nothing but the string it returns. Two: the
 // typed number's and the canonical number's strings of one conversion.
 inline std::array<std::string, 2>& spareStrings() {
     // Initial-exec, as the conversion's own thread state (its first-use guard is not: about 1 % of
@@ -95,12 +95,17 @@ inline std::array<std::string, 2>& spareStrings() {
     return kept;
 }
 
-/// A recycled string with room for more than a string holds in itself, else an empty one.
-inline std::string spareString() {
-    for (std::string& kept : spareStrings())
-        if (kept.capacity() > std::string().capacity())
-            return std::move(kept);
-    return std::string();
+/// `text`, too long to be held in a string itself, in the larger of the recycled strings.
+inline std::string longCopyOf(std::string_view text) {
+    std::array<std::string, 2>& kept = spareStrings();
+    std::string copy = std::move(kept[0].capacity() < kept[1].capacity() ? kept[1] : kept[0]);
+    copy.assign(text);
+    return copy;
+}
+
+/// `text` in a string of its own: a recycled one when it is long.
+inline std::string spareCopyOf(std::string_view text) {
+    return text.size() > std::string().capacity() ? longCopyOf(text) : std::string(text);
 }
 
 /// Keeps `used` for the next long number, in place of a smaller one.
@@ -135,13 +140,7 @@ public:
     }
     std::string_view view() const { return spill.empty() ? std::string_view(buffer, length) : spill; }
     /// The characters, in a recycled string when they are many.
-    std::string str() const {
-        std::string text;
-        if (view().size() > text.capacity())
-            text = spareString();
-        text.assign(view());
-        return text;
-    }
+    std::string str() const { return spareCopyOf(view()); }
 
 private:
     char buffer[48];

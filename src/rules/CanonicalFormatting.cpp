@@ -149,9 +149,13 @@ std::string formatCanonical(Generation& generation, std::string strCanPhoneNumbe
             }
             // Digits the mask did not place are never lost.
             result.append(parts.subscriber.substr(placed));
-            // The number's own string takes the result: nothing left to read from it.
-            if (result.view().size() > strCanPhoneNumber.capacity())
-                recycleString(std::exchange(strCanPhoneNumber, spareString()));
+            // The number's own string takes the result when it has room: nothing is left to read
+            // from it.
+            if (result.view().size() > strCanPhoneNumber.capacity()) {
+                std::string laidOut = result.str();
+                recycleString(std::move(strCanPhoneNumber));
+                return laidOut;
+            }
             strCanPhoneNumber.assign(result.view());
             return std::move(strCanPhoneNumber);
         },

@@ -400,7 +400,7 @@ std::string KesNumberingRules::makeCanonicalNumber(KesDialRulesItem* myKesDialRu
         // Only a number in international form keeps its area code; the others read it for the trace
         // the conversion has always written.
         traceExtract("extractAreaCodeOrNatPrefix", strValid);
-        const CanonicalNumber typed = CanonicalNumber::read(strValid);
+        const CanonicalNumber typed = internationalForm ? CanonicalNumber::read(strValid) : CanonicalNumber();
         const std::string_view strAreaCode = internationalForm ? typed.area : std::string_view();
 
         TypedNumber kind(myKesDialRulesItem);
@@ -425,10 +425,8 @@ std::string KesNumberingRules::makeCanonicalNumber(KesDialRulesItem* myKesDialRu
 void KesNumberingRules::appendCanonicalNumber(KesDialRulesItem* myKesDialRulesItem,
                                               std::string_view strPhoneNumber, const std::string& strPattern,
                                               bool withExternalPrefix, std::string& out) {
-    std::string number = spareString();
-    number.assign(strPhoneNumber);
     std::string canonical =
-        makeCanonicalNumber(myKesDialRulesItem, std::move(number), strPattern, withExternalPrefix);
+        makeCanonicalNumber(myKesDialRulesItem, spareCopyOf(strPhoneNumber), strPattern, withExternalPrefix);
     out += canonical;
     recycleString(std::move(canonical));
 }

@@ -28,9 +28,8 @@ std::string KesNumberingRules::makeGSMCanonicalNumber(KesDialRulesItem* myKesDia
 void KesNumberingRules::appendGSMCanonicalNumber(KesDialRulesItem* myKesDialRulesItem,
                                                  std::string_view strPhoneNumber, bool withExternalPrefix,
                                                  std::string& out) {
-    std::string number = spareString();
-    number.assign(strPhoneNumber);
-    std::string gsm = makeGSMCanonicalNumber(myKesDialRulesItem, std::move(number), withExternalPrefix);
+    std::string gsm =
+        makeGSMCanonicalNumber(myKesDialRulesItem, spareCopyOf(strPhoneNumber), withExternalPrefix);
     out += gsm;
     recycleString(std::move(gsm));
 }

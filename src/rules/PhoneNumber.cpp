@@ -51,10 +51,10 @@ bool prefixNeeded(KesNumberingRules& facade, KesDialRulesItem* rules, const std:
 
 /// `ext` + `dial`, in a recycled string when long.
 std::string prefixed(const std::string& ext, std::string dial) {
-    std::string result;
-    if (ext.size() + dial.size() > result.capacity())
-        result = spareString();
-    result.assign(ext).append(dial);
+    TextCollector joined;
+    joined.append(ext);
+    joined.append(dial);
+    std::string result = joined.str();
     recycleString(std::move(dial));
     return result;
 }
@@ -78,9 +78,8 @@ std::string withExternalPrefix(KesNumberingRules& facade, KesDialRulesItem* rule
 /// The digits that dial `number` from the installation: its canonical form, dialled; "" when it has
 /// no canonical form.
 std::string dialledForm(KesNumberingRules& facade, KesDialRulesItem* rules, const std::string& number) {
-    std::string typed = spareString(); // the number stays for the error line of a failure
-    typed.assign(number);
-    std::string canonical = facade.makeCanonicalNumber(rules, std::move(typed), "", false);
+    // A copy: the number stays for the error line of a failure.
+    std::string canonical = facade.makeCanonicalNumber(rules, spareCopyOf(number), "", false);
     return canonical.empty() ? canonical : facade.makeDialableNumber(rules, std::move(canonical));
 }
 
