@@ -73,9 +73,18 @@ extern "C" int LLVMFuzzerTestOneInput(const uint8_t* data, size_t size) {
                 clid->release();
             break;
         }
-        case 5:
-            rules->makeGSMCanonicalNumber(site, number, data[1] & 0x80);
+        case 5: {
+            // The GSM form is that of the canonical number, whatever the conversion leaves out to
+            // get there.
+            const bool withPrefix = data[1] & 0x80;
+            const std::string canonical = rules->makeCanonicalNumber(site, number, "", withPrefix);
+            const std::string expected = canonical.empty() || canonical[0] != '+'
+                                             ? canonical
+                                             : rules->formatToGSMCanonicalNumber(canonical);
+            if (rules->makeGSMCanonicalNumber(site, number, withPrefix) != expected)
+                __builtin_trap();
             break;
+        }
         case 6:
             rules->formatToGSMCanonicalNumber(number);
             break;

@@ -58,6 +58,12 @@ public:
     virtual bool isExceptionNumber(std::string number);
     /// isExceptionNumber(number) without its trace and without a copy of the number.
     bool beginsWithExceptionDigits(std::string_view number) const;
+    /// isLocalNumber(number) || isExceptionNumber(number), without their traces and copies.
+    bool isLocalOrExceptionNumber(std::string_view number) const {
+        return static_cast<long>(number.size()) < localNbLength || beginsWithExceptionDigits(number);
+    }
+    /// getExtPrefix() without a copy.
+    const std::string& extPrefixText() const { return extPrefix; }
     /// All fields on one line, closed by a NUL character that is part of the text.
     virtual std::string ToString();
 

@@ -79,6 +79,36 @@ std::string KesNumberingRules::formatCanonicalNumber(std::string strCanPhoneNumb
 
 namespace {
 
+/// What a mask writes behind "+C (A) ", the head of most countries' masks: subscriber characters
+/// only ("xxxxxx"), or with blanks and separators between them ("x xx xx xx xx"), or anything else.
+enum class MaskTail { Places, Separates, Other };
+
+MaskTail tailOf(std::string_view pattern) {
+    constexpr std::string_view head = "+C (A) ";
+    if (!startsWith(pattern, head))
+        return MaskTail::Other;
+    MaskTail tail = MaskTail::Places;
+    for (char c : pattern.substr(head.size()))
+        if (c == 'x')
+            continue;
+        else if (isFormatCharacter(c))
+            tail = MaskTail::Separates;
+        else
+            return MaskTail::Other;
+    return tail;
+}
+
+/// Whether such a mask lays `text` out as it stands: "+" calling code " (" area ") " and a
+/// subscriber number without blanks, which the mask places character by character and whose
+/// remainder it appends.
+bool laidOutAlready(std::string_view text, const CanonicalNumber& parts) {
+    // The subscriber number where it stands in that form puts the blank and the parentheses in
+    // their places, all but the character behind ")", which the reading passes over.
+    const std::string_view::size_type subscriber = parts.country.size() + parts.area.size() + 5;
+    return parts.subscriber.data() == text.data() + subscriber && text[0] == '+' &&
+           text[subscriber - 1] == ' ' && indexOf(parts.subscriber, ' ') == std::string_view::npos;
+}
+
 /// Records which mask lays a canonical number out, and the area part it reads.
 void explainLayout(KesExplanation& e, KesExplanation::Mask mask, const std::string& pattern,
                    std::string_view area) {
@@ -90,7 +120,7 @@ void explainLayout(KesExplanation& e, KesExplanation::Mask mask, const std::stri
 } // namespace
 
 std::string formatCanonical(Generation& generation, std::string strCanPhoneNumber,
-                            const std::string& strPattern) {
+                            const std::string& strPattern, Layout layout) {
     Logger* logger = KesNumberingRules::logger;
     if (Logger::m_Traces)
         logger->debug("formatCanonicalNumber('" + strCanPhoneNumber + "', '" + strPattern + "')");
@@ -114,12 +144,22 @@ std::string formatCanonical(Generation& generation, std::string strCanPhoneNumbe
                 pattern = mask == nullptr ? &noMask : mask;
             }
             const CanonicalNumber parts = CanonicalNumber::readAtSeparators(strCanPhoneNumber);
+            const MaskTail tail = tailOf(*pattern);
+            // The GSM form, which drops blanks and separators, reads the laid-out number as it reads
+            // this one when a "(" in the calling code does not move the area code, and no "***"
+            // keeps either number as it is.
+            if (layout == Layout::ForGsm && tail != MaskTail::Other &&
+                indexOf(parts.country, '(') == std::string_view::npos &&
+                !contains(strCanPhoneNumber, "***") && explaining() == nullptr)
+                return std::move(strCanPhoneNumber);
             if (KesExplanation* e = explaining())
                 explainLayout(*e,
                               !strPattern.empty() ? KesExplanation::Mask::Given
                               : pattern->empty()  ? KesExplanation::Mask::Missing
                                                   : KesExplanation::Mask::Country,
                               *pattern, parts.area);
+            if (tail == MaskTail::Places && laidOutAlready(strCanPhoneNumber, parts))
+                return std::move(strCanPhoneNumber);
             std::string_view::size_type placed = 0; // characters of the subscriber part passed
             TextCollector result;
             for (char c : *pattern) {

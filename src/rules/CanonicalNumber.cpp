@@ -309,9 +309,8 @@ std::string canonicalForm(Generation& generation, TypedNumber& kind, std::string
     KesDialRulesItem* rules = kind.rules;
     // A number in international form is never left alone: the rules' tests are then asked only for
     // the lines they trace.
-    if ((!internationalForm || Logger::m_Traces) &&
-        (rules->isLocalNumber(kind.number) || rules->isExceptionNumber(kind.number)) &&
-        !startsWith(kind.number, rules->getExtPrefix()) && !internationalForm) {
+    if ((!internationalForm || Logger::m_Traces) && dialledInside(*rules, kind.number) &&
+        !internationalForm) {
         if (Logger::m_Traces)
             KesNumberingRules::logger->debug("Nothing to do for" + kind.number);
         if (KesExplanation* e = explaining())
@@ -378,6 +377,12 @@ std::string KesNumberingRules::makeCanonicalNumber(KesDialRulesItem* myKesDialRu
 std::string KesNumberingRules::makeCanonicalNumber(KesDialRulesItem* myKesDialRulesItem,
                                                    std::string strPhoneNumber, std::string strPattern,
                                                    bool withExternalPrefix) {
+    return makeCanonical(myKesDialRulesItem, strPhoneNumber, strPattern, withExternalPrefix, Layout::Display);
+}
+
+std::string makeCanonical(KesDialRulesItem* myKesDialRulesItem, std::string& strPhoneNumber,
+                          const std::string& strPattern, bool withExternalPrefix, Layout layout) {
+    Logger* logger = KesNumberingRules::logger;
     requireArguments(myKesDialRulesItem, strPhoneNumber);
     const Conversion conversion;
     auto convert = [&]() -> std::string {
@@ -393,8 +398,8 @@ std::string KesNumberingRules::makeCanonicalNumber(KesDialRulesItem* myKesDialRu
             if (startsWith(strPhoneNumber, ext))
                 strPhoneNumber.erase(0, ext.size());
         }
-        TextCollector layout;
-        const std::string_view strValid = validNumber(strPhoneNumber, layout);
+        TextCollector international; // a number in international form, rewritten
+        const std::string_view strValid = validNumber(strPhoneNumber, international);
         const bool internationalForm = firstCharacter(strValid) == '+';
         Generation& generation = conversion.generation();
         // Only a number in international form keeps its area code; the others read it for the trace
@@ -410,7 +415,7 @@ std::string KesNumberingRules::makeCanonicalNumber(KesDialRulesItem* myKesDialRu
             return std::move(kind.number);
         std::string canonical = canonicalForm(generation, kind, strValid, strAreaCode, internationalForm);
         if (firstCharacter(canonical) == '+')
-            return formatCanonical(generation, std::move(canonical), strPattern);
+            return formatCanonical(generation, std::move(canonical), strPattern, layout);
         return canonical;
     };
     std::string result = guardConversion(convert, [&](const char* what) {

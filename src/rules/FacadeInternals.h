@@ -47,13 +47,32 @@ inline bool outsideLinePrefixNeeded(KesDialRulesItem& rules, const std::string& 
     return !rules.isExceptionNumber(number);
 }
 
+/// Whether `number` is a local or exception number of the installation dialled without the
+/// outside-line prefix, which the canonical conversion leaves alone. As above, the library's own
+/// rules answer without copies.
+inline bool dialledInside(KesDialRulesItem& rules, const std::string& number) {
+    if (!Logger::m_Traces && typeid(rules) == typeid(KesDialRulesItem))
+        return rules.isLocalOrExceptionNumber(number) && !startsWith(number, rules.extPrefixText());
+    return (rules.isLocalNumber(number) || rules.isExceptionNumber(number)) &&
+           !startsWith(number, rules.getExtPrefix());
+}
+
 /// generateDefaultCanonicalNumber.
 std::string defaultCanonicalNumber(Generation& generation, std::string strPhoneNumber,
                                    std::string_view strCountryCode, std::string_view strAreaCode);
 
-/// formatCanonicalNumber.
+/// What a canonical number is laid out for: display, or only its GSM form, which drops the blanks
+/// and separators a mask puts in.
+enum class Layout { Display, ForGsm };
+
+/// formatCanonicalNumber. For the GSM form, a country mask that only adds blanks and separators is
+/// not applied.
 std::string formatCanonical(Generation& generation, std::string strCanPhoneNumber,
-                            const std::string& strPattern);
+                            const std::string& strPattern, Layout layout = Layout::Display);
+
+/// makeCanonicalNumber, laid out for `layout`; takes `strPhoneNumber` over.
+std::string makeCanonical(KesDialRulesItem* rules, std::string& strPhoneNumber, const std::string& strPattern,
+                          bool withExternalPrefix, Layout layout);
 
 /// formatToGSMCanonicalNumber.
 std::string formatToGsm(Generation& generation, const std::string& strCanPhoneNumber);

@@ -9,6 +9,8 @@
 #include "numbering/KesNumberingConfig.h"
 #include "numbering/Logger.h"
 
+#include <typeinfo>
+
 // Mobile networks take "+" and digits only, and no national prefix written in parentheses.
 
 namespace numbering {
@@ -16,8 +18,13 @@ namespace numbering {
 std::string KesNumberingRules::makeGSMCanonicalNumber(KesDialRulesItem* myKesDialRulesItem,
                                                       std::string strPhoneNumber, bool withExternalPrefix) {
     const Conversion conversion; // the canonical form and its GSM form from one configuration
+    // The library's own canonical conversion leaves out a mask the GSM form would undo; a host's
+    // override is asked through the virtual table.
     std::string can =
-        makeCanonicalNumber(myKesDialRulesItem, std::move(strPhoneNumber), "", withExternalPrefix);
+        typeid(*this) == typeid(KesNumberingRules)
+            ? makeCanonical(myKesDialRulesItem, strPhoneNumber, std::string(), withExternalPrefix,
+                            Layout::ForGsm)
+            : makeCanonicalNumber(myKesDialRulesItem, std::move(strPhoneNumber), "", withExternalPrefix);
     if (!startsWith(can, '+'))
         return can;
     std::string gsm = formatToGsm(conversion.generation(), can);

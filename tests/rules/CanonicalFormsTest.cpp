@@ -38,6 +38,10 @@ TEST_F(CanonicalForms, MaskLetters) {
         // A country unknown to the rules has no national prefix to leave out.
         {"+999 (0) 234", "C-a-x", "999-0-234"},
         {"+33 (1)", "+C (A) xx", "+33 (1) "},
+        // A mask of places only rewrites what is not laid out as it writes.
+        {"+49 (89) 12 34 56", "+C (A) xxxxxx", "+49 (89) 123456"},
+        {"+49 (89)-123456", "+C (A) xxxxxx", "+49 (89) 123456"},
+        {"+49(89) 123", "+C (A) xxx", "+49(89) (89) 123"},
         // Without both parentheses there is nothing to lay out.
         {"+33 1 23", "+C (A) xx", "+33 1 23"},
     };
