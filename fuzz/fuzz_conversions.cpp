@@ -37,6 +37,15 @@ std::vector<std::unique_ptr<KesDialRulesItem>>& sites() {
     return made;
 }
 
+/// A host's subclass that overrides nothing: its conversions call each other through the virtual
+/// table and lay every canonical number out with its mask; the library's own, which leave out
+/// masks the readers of the digits would not see, must answer alike.
+KesNumberingRules& plainHost() {
+    struct PlainHost : KesNumberingRules {};
+    static PlainHost host;
+    return host;
+}
+
 } // namespace
 
 extern "C" int LLVMFuzzerInitialize(int*, char*** argv) {
@@ -62,29 +71,30 @@ extern "C" int LLVMFuzzerTestOneInput(const uint8_t* data, size_t size) {
             rules->makeCanonicalNumber(site, number, "+C (a) xx xx", true);
             break;
         case 2:
-            rules->makePhoneNumber(site, number);
+            if (rules->makePhoneNumber(site, number) != plainHost().makePhoneNumber(site, number))
+                __builtin_trap();
             break;
         case 3:
             rules->addExternalPrefix(site, number);
             break;
         case 4: {
             KesClid* clid = rules->makeClid(site, number);
-            if (clid != nullptr)
+            KesClid* hosts = plainHost().makeClid(site, number);
+            if ((clid == nullptr) != (hosts == nullptr) ||
+                (clid != nullptr &&
+                 (clid->getNumber() != hosts->getNumber() || clid->getOrigin() != hosts->getOrigin())))
+                __builtin_trap();
+            if (clid != nullptr) {
                 clid->release();
+                hosts->release();
+            }
             break;
         }
-        case 5: {
-            // The GSM form is that of the canonical number, whatever the conversion leaves out to
-            // get there.
-            const bool withPrefix = data[1] & 0x80;
-            const std::string canonical = rules->makeCanonicalNumber(site, number, "", withPrefix);
-            const std::string expected = canonical.empty() || canonical[0] != '+'
-                                             ? canonical
-                                             : rules->formatToGSMCanonicalNumber(canonical);
-            if (rules->makeGSMCanonicalNumber(site, number, withPrefix) != expected)
+        case 5:
+            if (rules->makeGSMCanonicalNumber(site, number, data[1] & 0x80) !=
+                plainHost().makeGSMCanonicalNumber(site, number, data[1] & 0x80))
                 __builtin_trap();
             break;
-        }
         case 6:
             rules->formatToGSMCanonicalNumber(number);
             break;

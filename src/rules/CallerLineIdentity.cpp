@@ -22,7 +22,12 @@ KesClid* KesNumberingRules::makeClid(KesDialRulesItem* myKesDialRulesItem, std::
     const Conversion conversion; // the canonical form and the country rules from one configuration
     if (Logger::m_Traces)
         logger->debug("makeClid with : " + strPhoneNumber);
-    std::string can = makeCanonicalNumber(myKesDialRulesItem, std::move(strPhoneNumber), "");
+    // Only the digits are read: the library's own conversion leaves out a mask that does not
+    // change them.
+    std::string can =
+        ownConversions(*this)
+            ? makeCanonical(myKesDialRulesItem, strPhoneNumber, std::string(), false, Layout::Digits)
+            : makeCanonicalNumber(myKesDialRulesItem, std::move(strPhoneNumber), "");
     if (can.empty())
         return nullptr;
     // A local number that could not be made canonical, or a service code.

@@ -79,34 +79,42 @@ std::string KesNumberingRules::formatCanonicalNumber(std::string strCanPhoneNumb
 
 namespace {
 
-/// What a mask writes behind "+C (A) ", the head of most countries' masks: subscriber characters
-/// only ("xxxxxx"), or with blanks and separators between them ("x xx xx xx xx"), or anything else.
-enum class MaskTail { Places, Separates, Other };
-
-MaskTail tailOf(std::string_view pattern) {
+/// The blanks and separators a mask writes among the places of the subscriber characters behind
+/// "+C (A) ", the head of most countries' masks ("+C (A) x xx xx xx xx": 4, "+C (A) xxxxxx": 0);
+/// npos for a mask that writes anything else.
+std::size_t separatorsOf(std::string_view pattern) {
     constexpr std::string_view head = "+C (A) ";
     if (!startsWith(pattern, head))
-        return MaskTail::Other;
-    MaskTail tail = MaskTail::Places;
+        return std::string_view::npos;
+    std::size_t separators = 0;
     for (char c : pattern.substr(head.size()))
         if (c == 'x')
             continue;
         else if (isFormatCharacter(c))
-            tail = MaskTail::Separates;
+            ++separators;
         else
-            return MaskTail::Other;
-    return tail;
+            return std::string_view::npos;
+    return separators;
 }
 
-/// Whether such a mask lays `text` out as it stands: "+" calling code " (" area ") " and a
-/// subscriber number without blanks, which the mask places character by character and whose
-/// remainder it appends.
-bool laidOutAlready(std::string_view text, const CanonicalNumber& parts) {
+/// Whether `text` stands as "+" calling code " (" area ") " subscriber, the form such a mask
+/// writes, which it then changes in the subscriber part alone.
+bool inMaskForm(std::string_view text, const CanonicalNumber& parts) {
     // The subscriber number where it stands in that form puts the blank and the parentheses in
     // their places, all but the character behind ")", which the reading passes over.
     const std::string_view::size_type subscriber = parts.country.size() + parts.area.size() + 5;
     return parts.subscriber.data() == text.data() + subscriber && text[0] == '+' &&
-           text[subscriber - 1] == ' ' && indexOf(parts.subscriber, ' ') == std::string_view::npos;
+           text[subscriber - 1] == ' ';
+}
+
+/// Whether the readers of a number's digits (the GSM form, the caller identity, the dialling) read
+/// the same from `text` as from `text` laid out with a mask of places and `separators` separators:
+/// the calling code, the area code and the digits of the subscriber number stand as they did, no
+/// "***" keeps a number as it is, and the laid-out number is not too long to be dialled.
+bool digitsReadAlike(std::string_view text, const CanonicalNumber& parts, std::size_t separators) {
+    return inMaskForm(text, parts) && !parts.country.empty() && allDigits(parts.country) &&
+           text.size() + separators < static_cast<std::size_t>(KesNumberingConfig::MAX_PHONE_NUMBER_LENGTH) &&
+           !contains(text, "***") && explaining() == nullptr;
 }
 
 /// Records which mask lays a canonical number out, and the area part it reads.
@@ -144,13 +152,9 @@ std::string formatCanonical(Generation& generation, std::string strCanPhoneNumbe
                 pattern = mask == nullptr ? &noMask : mask;
             }
             const CanonicalNumber parts = CanonicalNumber::readAtSeparators(strCanPhoneNumber);
-            const MaskTail tail = tailOf(*pattern);
-            // The GSM form, which drops blanks and separators, reads the laid-out number as it reads
-            // this one when a "(" in the calling code does not move the area code, and no "***"
-            // keeps either number as it is.
-            if (layout == Layout::ForGsm && tail != MaskTail::Other &&
-                indexOf(parts.country, '(') == std::string_view::npos &&
-                !contains(strCanPhoneNumber, "***") && explaining() == nullptr)
+            const std::size_t separators = separatorsOf(*pattern);
+            if (layout == Layout::Digits && separators != std::string_view::npos &&
+                digitsReadAlike(strCanPhoneNumber, parts, separators))
                 return std::move(strCanPhoneNumber);
             if (KesExplanation* e = explaining())
                 explainLayout(*e,
@@ -158,7 +162,9 @@ std::string formatCanonical(Generation& generation, std::string strCanPhoneNumbe
                               : pattern->empty()  ? KesExplanation::Mask::Missing
                                                   : KesExplanation::Mask::Country,
                               *pattern, parts.area);
-            if (tail == MaskTail::Places && laidOutAlready(strCanPhoneNumber, parts))
+            // Placed character by character, a subscriber number without blanks stays as it is.
+            if (separators == 0 && inMaskForm(strCanPhoneNumber, parts) &&
+                indexOf(parts.subscriber, ' ') == std::string_view::npos)
                 return std::move(strCanPhoneNumber);
             std::string_view::size_type placed = 0; // characters of the subscriber part passed
             TextCollector result;

@@ -61,14 +61,20 @@ inline bool dialledInside(KesDialRulesItem& rules, const std::string& number) {
 std::string defaultCanonicalNumber(Generation& generation, std::string strPhoneNumber,
                                    std::string_view strCountryCode, std::string_view strAreaCode);
 
-/// What a canonical number is laid out for: display, or only its GSM form, which drops the blanks
-/// and separators a mask puts in.
-enum class Layout { Display, ForGsm };
+/// What a canonical number is laid out for: display, or only its calling code, area code and
+/// subscriber digits (the GSM form, the caller identity, the dialled form), which a country mask
+/// of places and separators does not change.
+enum class Layout { Display, Digits };
 
-/// formatCanonicalNumber. For the GSM form, a country mask that only adds blanks and separators is
-/// not applied.
+/// formatCanonicalNumber; for the digits, such a country mask is not applied.
 std::string formatCanonical(Generation& generation, std::string strCanPhoneNumber,
                             const std::string& strPattern, Layout layout = Layout::Display);
+
+/// Whether `facade` converts as the library does, not as a host's subclass that may override a
+/// conversion: then the conversions call each other's code directly.
+inline bool ownConversions(KesNumberingRules& facade) {
+    return typeid(facade) == typeid(KesNumberingRules);
+}
 
 /// makeCanonicalNumber, laid out for `layout`; takes `strPhoneNumber` over.
 std::string makeCanonical(KesDialRulesItem* rules, std::string& strPhoneNumber, const std::string& strPattern,

@@ -9,8 +9,6 @@
 #include "numbering/KesNumberingConfig.h"
 #include "numbering/Logger.h"
 
-#include <typeinfo>
-
 // Mobile networks take "+" and digits only, and no national prefix written in parentheses.
 
 namespace numbering {
@@ -18,12 +16,12 @@ namespace numbering {
 std::string KesNumberingRules::makeGSMCanonicalNumber(KesDialRulesItem* myKesDialRulesItem,
                                                       std::string strPhoneNumber, bool withExternalPrefix) {
     const Conversion conversion; // the canonical form and its GSM form from one configuration
-    // The library's own canonical conversion leaves out a mask the GSM form would undo; a host's
-    // override is asked through the virtual table.
+    // The GSM form reads only the digits: the library's own conversion leaves out a mask that does
+    // not change them.
     std::string can =
-        typeid(*this) == typeid(KesNumberingRules)
+        ownConversions(*this)
             ? makeCanonical(myKesDialRulesItem, strPhoneNumber, std::string(), withExternalPrefix,
-                            Layout::ForGsm)
+                            Layout::Digits)
             : makeCanonicalNumber(myKesDialRulesItem, std::move(strPhoneNumber), "", withExternalPrefix);
     if (!startsWith(can, '+'))
         return can;
