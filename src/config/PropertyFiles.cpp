@@ -158,7 +158,9 @@ void NumberedProperties::keep(std::string_view key, std::string_view value) {
         return;
     }
     const auto slot = static_cast<std::size_t>(index);
-    if (slot >= values.size())
+    if (slot == values.size())
+        values.emplace_back(); // the list in order, as files hold it: no resize call per key
+    else if (slot > values.size())
         values.resize(slot + 1);
     values[slot] =
         Value{static_cast<std::uint32_t>(buffer.size()), static_cast<std::uint32_t>(value.size()), true};
