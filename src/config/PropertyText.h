@@ -21,9 +21,23 @@ namespace numbering {
 /// backslash before any other character keeps that character (a NUL byte still ends the value).
 /// Key and value are trimmed of ASCII whitespace.
 template <class Keep> void readPropertyText(std::string_view text, Keep keep) {
+    // What stops the scan of a key or of a value, by byte: one table look-up a character.
+    enum : unsigned char { ENDS_KEY = 1, STOPS_VALUE = 2 };
+    static const struct Stops {
+        unsigned char of[256] = {};
+        Stops() {
+            for (unsigned char c : {'=', ':', '\r', '\n'})
+                of[c] |= ENDS_KEY;
+            for (unsigned char c : {'\\', '\r', '\n', '\0'})
+                of[c] |= STOPS_VALUE;
+        }
+    } stops;
+    auto stopsAt = [](char c, unsigned char kind) {
+        return (stops.of[static_cast<unsigned char>(c)] & kind) != 0;
+    };
+    auto endsValue = [](char c) { return c == '\n' || c == '\r' || c == '\0'; };
     const char* at = text.data();
     const char* const end = at + text.size();
-    auto endsValue = [](char c) { return c == '\n' || c == '\r' || c == '\0'; };
     std::string escaped; // a value with a backslash, as the escapes read
     while (at != end) {
         const char first = *at;
@@ -37,7 +51,7 @@ template <class Keep> void readPropertyText(std::string_view text, Keep keep) {
             continue;
         }
         const char* const keyBegin = at;
-        while (at != end && *at != '=' && *at != ':' && *at != '\r' && *at != '\n')
+        while (at != end && !stopsAt(*at, ENDS_KEY))
             ++at;
         const std::string_view key(keyBegin, static_cast<std::size_t>(at - keyBegin));
         if (at == end || (*at != '=' && *at != ':')) {
@@ -45,7 +59,7 @@ template <class Keep> void readPropertyText(std::string_view text, Keep keep) {
             continue; // a line end left is whitespace to the next key
         }
         const char* const valueBegin = ++at;
-        while (at != end && *at != '\\' && !endsValue(*at))
+        while (at != end && !stopsAt(*at, STOPS_VALUE))
             ++at;
         if (at == end || *at != '\\') {
             const std::string_view value(valueBegin, static_cast<std::size_t>(at - valueBegin));
