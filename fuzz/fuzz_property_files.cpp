@@ -1,17 +1,26 @@
 // Fuzzes the property-file readers: the input, split at NUL bytes, becomes the dialing rules, masks,
 // activation switches, the German, Argentine and Australian area code files and the Colombian operator
 // file of a scratch configuration directory; the library reloads them and converts a few numbers.
+// The library's reading of a property file must hand over the keys and values Poco's load gives: the
+// whole input, NUL bytes included, is read by both and compared.
 #include "FuzzHost.h"
+
+#include "config/PropertyText.h"
 
 #include "numbering/KesClid.h"
 #include "numbering/KesDialRulesItem.h"
 #include "numbering/KesNumberingRules.h"
 #include "numbering/KesUnsupportedCountryException.h"
 
+#include <Poco/MemoryStream.h>
+#include <Poco/Util/PropertyFileConfiguration.h>
+
 #include <cstdint>
 #include <fstream>
 #include <stdexcept>
 #include <string>
+#include <utility>
+#include <vector>
 
 using namespace numbering;
 
@@ -23,6 +32,31 @@ const char* const FILES[] = {
     "tz310cnp_57.properties"};
 
 std::string directory;
+
+using Properties = std::vector<std::pair<std::string, std::string>>;
+
+/// Every key and value Poco's load hands over, in order.
+class PocoReading : public Poco::Util::PropertyFileConfiguration {
+public:
+    explicit PocoReading(const std::string& text) {
+        Poco::MemoryInputStream stream(text.data(), static_cast<std::streamsize>(text.size()));
+        load(stream);
+    }
+    Properties read;
+
+protected:
+    void setRaw(const std::string& key, const std::string& value) override { read.emplace_back(key, value); }
+};
+
+void compareWithPoco(const std::string& text) {
+    Properties ours;
+    numbering::readPropertyText(text, [&](std::string_view key, std::string_view value) {
+        ours.emplace_back(std::string(key), std::string(value));
+    });
+    const Poco::AutoPtr<PocoReading> poco(new PocoReading(text));
+    if (ours != poco->read)
+        std::abort();
+}
 
 void convertSome(KesNumberingRules* rules, KesDialRulesItem* site) {
     static const char* const numbers[] = {
@@ -53,6 +87,7 @@ extern "C" int LLVMFuzzerInitialize(int*, char*** argv) {
 
 extern "C" int LLVMFuzzerTestOneInput(const uint8_t* data, size_t size) {
     std::string input(reinterpret_cast<const char*>(data), size);
+    compareWithPoco(input);
     std::string::size_type start = 0;
     for (const char* file : FILES) {
         std::string path = directory + file;

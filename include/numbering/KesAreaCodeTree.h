@@ -67,8 +67,6 @@ private:
 
     /// The node reached from `node` by the digit `c`, or 0.
     std::uint32_t child(std::uint32_t node, char c) const;
-    /// The length of the longest leading part of `digits` that is a path from the root.
-    std::size_t pathLength(std::string_view digits) const;
     void appendText(std::uint32_t node, char character, int level, std::string& text) const;
     int storedCodesBelow(std::uint32_t node) const;
 

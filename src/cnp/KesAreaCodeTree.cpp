@@ -45,14 +45,6 @@ std::uint32_t KesAreaCodeTree::child(std::uint32_t node, char c) const {
     return childBlocks[block][static_cast<std::size_t>(c - '0')];
 }
 
-std::size_t KesAreaCodeTree::pathLength(std::string_view digits) const {
-    std::uint32_t node = 0;
-    std::size_t length = 0;
-    while (length < digits.size() && (node = child(node, digits[length])) != 0)
-        ++length;
-    return length;
-}
-
 bool KesAreaCodeTree::insert(std::string strDigits) {
     if (Logger::m_Traces)
         logger->debug("Inserting '" + strDigits + "' ...");
@@ -61,16 +53,22 @@ bool KesAreaCodeTree::insert(std::string strDigits) {
     for (std::string::size_type i = 0; i < strDigits.size(); ++i)
         if (strDigits[i] < '0' || strDigits[i] > '9')
             throw number_format_exception(malformedDigitMessage(strDigits, i));
+    // One walk down the existing path, which plans build by the thousand at their first use.
+    std::uint32_t node = 0;
+    std::size_t existing = 0;
+    for (std::uint32_t block; existing < strDigits.size() && (block = nodes[node].children) != NO_CHILDREN;
+         ++existing) {
+        const std::uint32_t next = childBlocks[block][static_cast<std::size_t>(strDigits[existing] - '0')];
+        if (next == 0)
+            break;
+        node = next;
+    }
     // Already a path (a stored code, or the beginning of a longer one): shorter codes come first.
-    std::size_t existing = pathLength(strDigits);
     if (existing == strDigits.size()) {
         if (Logger::m_Traces)
             logger->debug("Insert failed for '" + strDigits + "'");
         return false;
     }
-    std::uint32_t node = 0;
-    for (std::size_t i = 0; i < existing; ++i)
-        node = child(node, strDigits[i]);
     for (std::size_t i = existing; i < strDigits.size(); ++i) {
         if (nodes[node].children == NO_CHILDREN) {
             childBlocks.push_back(ChildBlock{});

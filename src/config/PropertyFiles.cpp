@@ -1,10 +1,10 @@
 #include "PropertyFiles.h"
 
+#include "PropertyText.h"
 #include "lifecycle/Generation.h"
 #include "numbering/Logger.h"
 
 #include <Poco/Error.h>
-#include <Poco/MemoryStream.h>
 #include <Poco/String.h>
 
 #include <cerrno>
@@ -27,6 +27,19 @@ public:
 
 private:
     int descriptor;
+};
+
+/// A property file read by readPropertyText, with the keys and values Poco's own load would give.
+class PropertyText : public Poco::Util::PropertyFileConfiguration {
+public:
+    explicit PropertyText(std::string_view text) {
+        readPropertyText(text, [this](std::string_view key, std::string_view value) {
+            setRaw(std::string(key), std::string(value));
+        });
+    }
+
+protected:
+    ~PropertyText() override = default;
 };
 
 [[noreturn]] void cannotRead(int error) {
@@ -123,29 +136,31 @@ std::string readPropertyFile(const Generation& generation, const std::string& na
 }
 
 Poco::AutoPtr<Poco::Util::PropertyFileConfiguration> parseProperties(std::string_view text) {
-    Poco::MemoryInputStream stream(text.data(), static_cast<std::streamsize>(text.size()));
-    return new Poco::Util::PropertyFileConfiguration(stream);
+    return new PropertyText(text);
 }
 
 NumberedProperties::NumberedProperties(std::string_view text, std::string prefix)
     : keyPrefix(std::move(prefix)) {
     buffer.reserve(text.size()); // no value is longer than the text it is read from
-    // Poco hands every property to setRaw() as it reads them, which is ours once this object is
-    // whole: the load cannot go through the base class's constructor.
-    Poco::MemoryInputStream stream(text.data(), static_cast<std::streamsize>(text.size()));
-    load(stream);
+    readPropertyText(text, [this](std::string_view key, std::string_view value) { keep(key, value); });
 }
 
 NumberedProperties::~NumberedProperties() = default;
 
 void NumberedProperties::setRaw(const std::string& key, const std::string& value) {
+    keep(key, value);
+}
+
+void NumberedProperties::keep(std::string_view key, std::string_view value) {
     const int index = numberedIndex(keyPrefix, key);
     if (index < 0) {
-        PropertyFileConfiguration::setRaw(key, value);
+        PropertyFileConfiguration::setRaw(std::string(key), std::string(value));
         return;
     }
     const auto slot = static_cast<std::size_t>(index);
-    if (slot >= values.size())
+    if (slot == values.size())
+        values.emplace_back(); // the list in order, as files hold it: no resize call per key
+    else if (slot > values.size())
         values.resize(slot + 1);
     values[slot] =
         Value{static_cast<std::uint32_t>(buffer.size()), static_cast<std::uint32_t>(value.size()), true};

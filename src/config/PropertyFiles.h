@@ -53,7 +53,7 @@ std::string readInstallationOrDefault(const Generation& generation, const std::s
                                       const std::string& textWhenUnopenable,
                                       const std::string& textWhenNotFound);
 
-/// Poco's reading of `text`, the content of a property file.
+/// Poco's reading of `text`, the content of a property file (the keys and values its load gives).
 Poco::AutoPtr<Poco::Util::PropertyFileConfiguration> parseProperties(std::string_view text);
 
 /// Poco's reading of a file that holds a numbered list (keyPrefix + "%04d": "AC_0000", "AC_0001",
@@ -81,6 +81,9 @@ protected:
     void setRaw(const std::string& key, const std::string& value) override;
 
 private:
+    /// Files one property: a key of the list by its index, any other in Poco's map.
+    void keep(std::string_view key, std::string_view value);
+
     /// Where a value of the list stands in `buffer`.
     struct Value {
         std::uint32_t begin = 0, length = 0;

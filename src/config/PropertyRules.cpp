@@ -4,7 +4,6 @@
 #include "numbering/KesNumberingConfig.h"
 
 #include <Poco/String.h>
-#include <Poco/StringTokenizer.h>
 
 #include <algorithm>
 #include <cstdlib>
@@ -62,11 +61,20 @@ References readReferences(std::string_view value) {
 }
 
 DialingRuleFields splitDialingRule(const std::string& value) {
-    Poco::StringTokenizer tokens(value, ":");
+    // As Poco's StringTokenizer(value, ":") cuts it, without its copy of every character: an empty
+    // value has no field, any other one field more than it has ":".
     DialingRuleFields fields;
-    fields.count = tokens.count();
-    for (std::size_t i = 0; i < fields.field.size() && i < tokens.count(); ++i)
-        fields.field[i] = tokens[i];
+    if (value.empty())
+        return fields;
+    for (std::string::size_type begin = 0;; ++fields.count) {
+        const std::string::size_type colon = value.find(':', begin);
+        if (fields.count < fields.field.size())
+            fields.field[fields.count].assign(value, begin, colon - begin);
+        if (colon == std::string::npos)
+            break;
+        begin = colon + 1;
+    }
+    ++fields.count;
     return fields;
 }
 
