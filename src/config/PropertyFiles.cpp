@@ -30,16 +30,16 @@ private:
 };
 
 /// A property file read by readPropertyText, with the keys and values Poco's own load would give.
-class PropertyText : public Poco::Util::PropertyFileConfiguration {
+class PropertiesInMemory : public Poco::Util::PropertyFileConfiguration {
 public:
-    explicit PropertyText(std::string_view text) {
+    explicit PropertiesInMemory(std::string_view text) {
         readPropertyText(text, [this](std::string_view key, std::string_view value) {
             setRaw(std::string(key), std::string(value));
         });
     }
 
 protected:
-    ~PropertyText() override = default;
+    ~PropertiesInMemory() override = default;
 };
 
 [[noreturn]] void cannotRead(int error) {
@@ -136,7 +136,7 @@ std::string readPropertyFile(const Generation& generation, const std::string& na
 }
 
 Poco::AutoPtr<Poco::Util::PropertyFileConfiguration> parseProperties(std::string_view text) {
-    return new PropertyText(text);
+    return new PropertiesInMemory(text);
 }
 
 NumberedProperties::NumberedProperties(std::string_view text, std::string prefix)
