@@ -22,6 +22,17 @@ fail() {
     failures=$((failures + 1))
 }
 
+# check STATUS NAME ARGS...: runs the tool; fails NAME unless it exits with STATUS.
+check() {
+    local expected=$1 name=$2
+    shift 2
+    run "$@"
+    [ "$status" = "$expected" ] || fail "$name (exit status $status, wanted $expected)"
+}
+
+# expect_line NAME LINE: LINE is one of the lines on standard output.
+expect_line() { grep -qxF -- "$2" <<<"$out" || fail "$1: no line '$2'"; }
+
 # expect NAME STATUS STDOUT [STDERR]: exact exit status and output, standard error empty unless given.
 expect() {
     if [ "$status" != "$2" ] || [ "$out" != "$3" ] || [ "$err" != "${4:-}" ]; then
