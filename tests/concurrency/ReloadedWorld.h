@@ -41,9 +41,6 @@ extern const std::vector<Typed> RELOADED;
 extern const ConfigurationCopy::Files VARIANT_A;
 extern const ConfigurationCopy::Files VARIANT_B;
 
-/// `text` as an editor saves it in UTF-16: a configuration check error.
-std::string utf16(const std::string& text);
-
 /// The canonical, GSM and dialled forms of one number: three conversions, each on one configuration.
 std::vector<std::string> convertOnce(const Typed& typed);
 /// convertOnce of every RELOADED number.

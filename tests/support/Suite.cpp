@@ -46,6 +46,15 @@ Tracing::~Tracing() {
     Logger::m_Traces = previous;
 }
 
+std::string widened(const std::string& text, std::size_t width, bool bigEndian) {
+    std::string wide;
+    for (char c : text) {
+        const std::string zeros(width - 1, '\0');
+        wide += bigEndian ? zeros + c : c + zeros;
+    }
+    return wide;
+}
+
 } // namespace testhost
 
 namespace testconfig {

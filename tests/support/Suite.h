@@ -60,6 +60,13 @@ template <class Exception, class Call> std::string thrownText(Call call) {
     return "nothing thrown";
 }
 
+/// `text` with every character widened to `width` bytes, as UTF-16 or UTF-32 write Latin text.
+std::string widened(const std::string& text, std::size_t width, bool bigEndian);
+/// `text` as an editor saves it in UTF-16: a configuration check error.
+inline std::string utf16(const std::string& text) {
+    return "\xFF\xFE" + widened(text, 2, false);
+}
+
 /// What `run` prints on standard output.
 template <class Run> std::string printed(Run run) {
     testing::internal::CaptureStdout();
