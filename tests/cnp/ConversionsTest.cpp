@@ -1,5 +1,4 @@
-// Canonical conversions of every plan, around each plan's lengths and prefixes, in the shared world
-// of PlanWorld.h.
+// Canonical conversions of every plan, around each plan's lengths and prefixes.
 
 #include "PlanWorld.h"
 
@@ -9,16 +8,15 @@ using namespace planworld;
 
 namespace {
 
-/// The conversions of one plan at one installation: "typed -> expected", or the typed number alone
-/// when the plan must return it unchanged.
+/// "typed -> expected" at one installation, or the typed number alone when it comes back unchanged.
 struct Group {
     Site site;
     std::initializer_list<const char*> rows;
 };
 
 const Group TABLE[] = {
-    // Germany: pass 2 strips the outside-line prefix when at most 16 characters follow it; an unknown
-    // area code, and a national number too short to split, end behind the own area code.
+    // Germany: pass 2 strips the outside-line prefix before at most 16 characters; what cannot be split
+    // ends behind the own area code.
     {{"DE", "0", 5, "89"},
      {"0301234567 -> +49 (30) 1234567", "00301234567 -> +49 (30) 1234567", "1234567 -> +49 (89) 1234567",
       "0451234567 -> +49 (89) 451234567", "030 -> +49 (89) 030", "0123 -> +49 (89) 123",
@@ -53,8 +51,7 @@ const Group TABLE[] = {
       "84951234567 -> +7 (495) 1234567", "94951234567 -> +7 (495) 1234567",
       "084951234567 -> +7 (495) 1234567", "184951234567", "0084951234567"}},
     {{"RU", "0", 0, "", "49"}, {"4951234567", "3951234567 -> +7 (395) 1234567"}},
-    // North America: the outside-line prefix plays no part; area and exchange codes never begin
-    // with 0 or 1.
+    // North America: no outside-line prefix; area and exchange codes never begin with 0 or 1.
     {{"US", "9", 0, "212"},
      {"555123", "5551234 -> +1 (212) 5551234", "1551234", "0551234", "15551234 -> +1 (212) 5551234",
       "05551234 -> +1 (212) 5551234", "95551234", "11551234", "555123456"}},
@@ -63,8 +60,7 @@ const Group TABLE[] = {
       "14155551234 -> +1 (415) 5551234", "04155551234 -> +1 (415) 5551234", "24155551234", "14151551234",
       "114155551234"}},
     {{"US", "", 0, ""}, {"5551234 -> +1 (?) 5551234", "15551234 -> +1 (?) 5551234"}},
-    // The single-pass plans: from six (Netherlands, United Kingdom), nine (Belgium) or five (Ireland)
-    // characters, each with its own local rule.
+    // The single-pass plans: from six (NL, GB), nine (BE) or five (IE) characters.
     {{"NL", "0", 0, "20"},
      {"0201234567 -> +31 (20) 1234567", "0591234567 -> +31 (0) 591234567", "1234567 -> +31 (20) 1234567",
       "020", "02012", "020123 -> +31 (20) 123", "0031201234567 -> +31 (0) 031201234567"}},
@@ -91,8 +87,7 @@ const Group TABLE[] = {
       "045611234567 -> +57 (1) 1234567", "033001234567 -> +57 (300) 1234567",
       "0456812345678 -> +57 (8) 12345678"}},
     {{"CO", "0", 0, ""}, {"1234567 -> +57 () 1234567"}},
-    // Mexico: ten national digits with or without their prefixes; the plan file's codes come before
-    // the two-digit rule.
+    // Mexico: ten national digits; the plan file's codes come before the two-digit rule.
     {{"MX", "0", 0, "55"},
      {"5512345678 -> +52 (55) 12345678", "5612345678 -> +52 (56) 12345678", "3312345678 -> +52 (33) 12345678",
       "8112345678 -> +52 (81) 12345678", "2221234567 -> +52 (222) 1234567", "2222123456 -> +52 (2222) 123456",
@@ -159,8 +154,7 @@ TEST_F(Conversions, EveryPlanAroundItsLengthsAndPrefixes) {
     }
 }
 
-// The two-pass plans leave to pass 2 a national number shorter than their longest area code, not
-// one as long.
+// Pass 2 takes a national number shorter than the longest area code, not one as long.
 TEST_F(Conversions, NationalNumbersShorterThanTheLongestAreaCodeWaitForPass2) {
     const Site site{"DE", "9", 5, "89"};
     writePlanFile("49", "1", {"30"});

@@ -72,8 +72,7 @@ TEST_F(DialRulesItem, LengthsAreaCodesAndText) {
               std::vector<std::string>{"DEBUG N9numbering16KesDialRulesItemE - isLocalNumber('1234')=false"});
 }
 
-// A host's installation from its site file: every setting reaches the KesDialRulesItem; the tool's
-// tests cover the findings of check().
+// Every setting of a site file reaches the KesDialRulesItem (the tool's tests cover check()).
 TEST_F(DialRulesItem, SiteFileMakesTheHostsInstallation) {
     const std::string path = testconfig::directory() + "site.properties";
     testconfig::write("site.properties", "# Paris\ncountry = FR\next_prefix = 9\narea_codes = 1, 2\n"

@@ -12,12 +12,10 @@ namespace {
 
 using Rule = Poco::AutoPtr<KesCountryRuleItem>;
 
-/// A country rule with the international prefix "00" and the long-distance prefix `prefix`.
 Rule ruleOf(const std::string& number, const std::string& prefix, const std::string& internatRule = "EF") {
     return Rule(new KesCountryRuleItem(number, "00", internatRule, prefix + "F", "", "Test"));
 }
 
-/// An installation of the default country with `areaCodes` as its own areas.
 KesDialRulesItem installationIn(const std::string& areaCodes) {
     KesDialRulesItem rules;
     rules.setAreaCode(areaCodes);
@@ -29,8 +27,7 @@ std::string longDist(KesDialable& strategy, std::string area, std::string number
     return strategy.makeLongDistDialableNumber(area, number, rule, rules);
 }
 
-/// The standard world ("RU" has the long-distance prefix "8", "AR" and "CO" have "0"), the
-/// Argentine area codes 11 and 351 and the Colombian operators.
+/// The standard world, the Argentine area codes 11 and 351 and the Colombian operators.
 class CountryStrategies : public testconfig::WorldTest {
 protected:
     void SetUp() override {
@@ -151,9 +148,8 @@ TEST_F(CountryStrategies, ColombianOperatorsUpToTheFirstGap) {
     EXPECT_EQ(longDist(withoutFile, "1", "2345678", rule.get(), nullptr), "0912345678");
 }
 
-// International numbers: the generic strategy reads the letters of the international rule and
-// looks the destination's national prefix up in the store (the United Kingdom writes "0"); the
-// Colombian one puts the subscriber number where the country code belongs, as installations dial it.
+// The generic strategy reads the letters of the international rule and drops the destination's
+// national prefix; the Colombian one puts the subscriber number where the country code belongs.
 TEST_F(CountryStrategies, InternationalNumbers) {
     testconfig::remove("tz310cnp_57.properties");
     KesDialable generic;
@@ -184,8 +180,7 @@ TEST_F(CountryStrategies, InternationalNumbers) {
     }
 }
 
-// The generic long-distance and local rules complete the prefix, never double it; "I" puts the
-// prefix without the area code.
+// The generic rules complete the prefix, never double it; "I" puts it without the area code.
 TEST_F(CountryStrategies, GenericLongDistanceAndLocalRulesMergeThePrefix) {
     KesDialable strategy;
     const char* const cases[][4] = {

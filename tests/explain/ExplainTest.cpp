@@ -1,5 +1,4 @@
-// KesExplanation::of on the shipped configuration: the decisions it records for one number of each
-// kind, and the results it reports, which are those of the conversions themselves.
+// The decisions KesExplanation records for a number of each kind, on the shipped configuration.
 
 #include "numbering/KesDialRulesItem.h"
 #include "numbering/KesExplanation.h"

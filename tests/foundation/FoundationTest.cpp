@@ -1,7 +1,6 @@
 #include "Suite.h"
 
-// What reaches the sink: level, logger name, separator, then the message with control characters
-// escaped, other bytes as they are, ending at a NUL as the C string the sink receives would.
+// Level, logger, separator, the message with controls escaped and cut at a NUL as a C string would.
 TEST(Logger, LineLayoutAndEscaping) {
     const std::string cases[][2] = {
         {"", ""},
@@ -31,19 +30,7 @@ TEST(Logger, LineLayoutAndEscaping) {
     delete logger;
 }
 
-TEST(ValueTypes, OriginsAreNumberedInDeclarationOrder) {
-    const KesEnumOrigin* origins[] = {&KesEnumOrigin::ANY, &KesEnumOrigin::INTERNATIONAL,
-                                      &KesEnumOrigin::NATIONAL, &KesEnumOrigin::PRIVATE_1,
-                                      &KesEnumOrigin::PUBLIC_1};
-    const char* const names[] = {"Any", "International", "National", "Private", "Public"};
-    for (int i = 0; i < 5; ++i)
-        EXPECT_TRUE(origins[i]->id == i + 1 && origins[i]->name == names[i]) << names[i];
-    EXPECT_TRUE(KesEnumOrigin::ANY < KesEnumOrigin::PUBLIC_1);
-    EXPECT_TRUE(TypesafeEnum("Same") != TypesafeEnum("Same")) << "compared by id, never by name";
-}
-
-// The unsupported-country exception derives from no standard exception: a catch of std::exception
-// does not see it.
+// A catch of std::exception does not see the unsupported-country exception.
 TEST(ValueTypes, Exceptions) {
     EXPECT_STREQ(KesUnsupportedCountryException("XX").what(), "Country code 'XX' is not supported");
     EXPECT_STREQ(KesUnsupportedCountryException("XX", "Dialing rules configuration can not be loaded").what(),
@@ -56,4 +43,5 @@ TEST(ValueTypes, Exceptions) {
               }),
               "Country code 'XX' is not supported");
     EXPECT_THROW(throw number_format_exception("bad digit"), std::invalid_argument);
+    EXPECT_TRUE(TypesafeEnum("Same") != TypesafeEnum("Same")) << "compared by id, never by name";
 }

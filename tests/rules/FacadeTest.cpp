@@ -61,8 +61,7 @@ TEST_F(Facade, CallerLineIdentities) {
     EXPECT_EQ(KesClid::_count, before);
 }
 
-// Every conversion that takes installation rules and a number refuses a null rules pointer and an
-// empty number with the same two messages.
+// Every conversion refuses null installation rules and an empty number with the same two messages.
 TEST_F(Facade, MissingArgumentsOfEveryConversion) {
     KesDialRulesItem rules = facadeworld::stockholm();
     const std::function<void(KesDialRulesItem*, const std::string&)> conversions[] = {
@@ -80,10 +79,9 @@ TEST_F(Facade, MissingArgumentsOfEveryConversion) {
     }
 }
 
-// Numbers come from outside (a calling number from a trunk, what a user typed). Whatever they hold,
-// every line the sink receives stays one log line with no terminal control in it (the line break
-// before "DialRules:" is the library's own and the only one), and no debug text is written while
-// tracing is off. (The conversion fuzzer sees that no input fails the host.)
+// Whatever a number from outside holds, every line the sink receives stays one log line without
+// terminal controls (but the library's own break before "DialRules:"), and none is debug text while
+// tracing is off.
 class OddInputs : public facadeworld::FacadeTest {
 protected:
     void convertAll(const std::string& number) {

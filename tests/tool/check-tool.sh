@@ -68,9 +68,8 @@ run --help
 unset NUMBERING_CONFIG_DIR
 run --config-dir "$data" canonical 0123456789
 expect "--config-dir instead of the environment" 0 "+33 (0) 1 23 45 67 89"
-# An empty variable is ignored by the library, so the tool reads the library's own directory, else
-# falls back on the shipped files and says so (the real directory, if this machine has one, is not
-# for tests).
+# An empty variable is ignored: the library's own directory (not for tests where it exists), else the
+# shipped files with a note.
 library=/current/tele_mnt/lib_numbering/
 if [ ! -e "$library" ]; then
     NUMBERING_CONFIG_DIR= run canonical 0123456789
@@ -85,8 +84,7 @@ run --config-dir "$data" -c DE -x 0 -a 89 --json explain "030 1234567"
 check 1 "explain of a number that is not one" --config-dir "$data" explain "12a4"
 check 2 "explain of two numbers" --config-dir "$data" explain 123 456
 
-# configuration NAME [FILE LINE]: a copy of the shipped files, LINE in place of the row of its key
-# in FILE ("KEY=" only: the row removed).
+# configuration NAME [FILE LINE]: the shipped files, LINE in place of its key's row in FILE ("KEY=": none).
 configuration() {
     local directory=$work/$1
     mkdir -p "$directory"
@@ -114,8 +112,7 @@ printf 'cnp_1=on\ncnp_49=off\n' >"$work/notes/specific_format_activation.propert
 check 1 "warnings" check --config-dir "$work/notes"
 expect_line "warnings" "$work/notes/specific_format_activation.properties:2: warning: cnp_49 = off switches nothing off: the library keeps only the first valid switch of the file (cnp_1) and files it under calling code 0, so the plan of every calling code stays on"
 
-# Errors: an installation holding only the French mask. Three of the missing masks are listed, the
-# others counted, all of them in the summary.
+# Errors: only the French mask. Three missing masks are listed, the others counted, all summed up.
 printf 'Mask_33_1=+C (A) x xx xx xx xx\n' >"$work/notes/dlr_cnp_mask.properties"
 check 2 "errors" check --config-dir "$work/notes"
 expect_line "errors" "$work/notes/dlr_cnp_mask.properties: error: no mask for +20 (EG): without one a canonical number keeps only its subscriber number, so \"+20 (89) 123456\" becomes \"123456\", which no longer names the country and is dialled as a local number"
@@ -178,8 +175,7 @@ run --site "$work/missing.properties" diff "$data" "$work/same" 0123456789
 expect "a missing site file" 2 "" \
     "numbering: cannot open the site file $work/missing.properties: File not found: $work/missing.properties"
 
-# --json: one object per difference, the site's outside-line prefix in the numbers dialled; the
-# summary stays text on standard error.
+# --json: an object per difference, the site's outside-line prefix dialled; the summary stays text.
 run --site "$site" --json diff "$data" "$work/prefix" "+49 89 123456" "0049 89 123456"
 [ "$status" = 1 ] && [ "$(json input command old new)" = "+49 89 123456|dial|9004989123456|90004989123456;\
 0049 89 123456|canonical|+49 (89) 123456|004989123456;0049 89 123456|clid|4989123456 International|004989123456 Private;\

@@ -1,5 +1,4 @@
-# Sourced by the shell checks of the command-line tool, once $tool names it: a scratch directory
-# ($work), running the tool and judging what it did, and the closing verdict.
+# Sourced by the shell checks of the tool named $tool: a scratch directory $work, runs and verdicts.
 failures=0
 tab=$'\t'
 work=$(mktemp -d)
@@ -40,8 +39,7 @@ expect() {
     fi
 }
 
-# json KEY...: the JSON lines of $out read back, each as its members KEY... joined by '|' ('-' for
-# one missing), and ';' after each line.
+# json KEY...: each JSON line of $out as its members KEY... joined by '|' ('-' if missing), then ';'.
 json() {
     python3 -c '
 import json, sys
@@ -50,7 +48,6 @@ for line in filter(str.strip, sys.stdin):
     print("|".join(str(obj.get(k, "-")) for k in sys.argv[1:]), end=";")' "$@" <<<"$out" 2>&1
 }
 
-# finish: the verdict and the exit status of the check.
 finish() {
     if [ "$failures" -ne 0 ]; then
         echo "$failures check(s) failed"
