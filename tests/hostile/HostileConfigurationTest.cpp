@@ -12,24 +12,16 @@
 
 namespace {
 
-/// Every public conversion at an installation in countries with a plan or a strategy of their own.
-/// Returns how many conversions gave a non-empty answer.
+/// How many conversions give an answer in countries with a plan or a strategy of their own.
 int convertEverything() {
-    KesNumberingRules* rules = KesNumberingRules::getInstance();
     int answers = 0;
     for (const char* country :
          {"FR", "DE", "AT", "NL", "BE", "GB", "IE", "AU", "AR", "MX", "CO", "RU", "US", "CH", "NZ", "IT"}) {
         KesDialRulesItem site(country, "0", 4, "11", 0, "00");
         for (const char* number : {"01 23 45 67 89", "+49 (89) 123456", "0111543215678", "033001234567",
-                                   "84951234567", "5551234", "*12#", "+"}) {
-            answers += !rules->makeCanonicalNumber(&site, number, "").empty() +
-                       !rules->makeCanonicalNumber(&site, number, "", true).empty() +
-                       !rules->makePhoneNumber(&site, number).empty() +
-                       !rules->addExternalPrefix(&site, number).empty() +
-                       !rules->makeGSMCanonicalNumber(&site, number, false).empty();
-            Poco::AutoPtr<KesClid> clid(rules->makeClid(&site, number));
-            answers += !clid.isNull();
-        }
+                                   "84951234567", "5551234", "*12#", "+"})
+            for (const std::string& result : testhost::everyConversion(&site, number))
+                answers += !result.empty();
     }
     return answers;
 }

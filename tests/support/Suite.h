@@ -60,6 +60,9 @@ template <class Exception, class Call> std::string thrownText(Call call) {
     return "nothing thrown";
 }
 
+/// The result of every conversion of `number` at `site` ("" for no caller identity).
+std::vector<std::string> everyConversion(KesDialRulesItem* site, const std::string& number);
+
 /// `text` with every character widened to `width` bytes, as UTF-16 or UTF-32 write Latin text.
 std::string widened(const std::string& text, std::size_t width, bool bigEndian);
 /// `text` as an editor saves it in UTF-16: a configuration check error.
