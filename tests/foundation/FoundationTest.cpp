@@ -30,6 +30,17 @@ TEST(Logger, LineLayoutAndEscaping) {
     delete logger;
 }
 
+TEST(ValueTypes, OriginsAreNumberedInDeclarationOrder) {
+    const KesEnumOrigin* origins[] = {&KesEnumOrigin::ANY, &KesEnumOrigin::INTERNATIONAL,
+                                      &KesEnumOrigin::NATIONAL, &KesEnumOrigin::PRIVATE_1,
+                                      &KesEnumOrigin::PUBLIC_1};
+    const char* const names[] = {"Any", "International", "National", "Private", "Public"};
+    for (int i = 0; i < 5; ++i)
+        EXPECT_TRUE(origins[i]->id == i + 1 && origins[i]->name == names[i]) << names[i];
+    EXPECT_TRUE(KesEnumOrigin::ANY < KesEnumOrigin::PUBLIC_1);
+    EXPECT_TRUE(TypesafeEnum("Same") != TypesafeEnum("Same")) << "compared by id, never by name";
+}
+
 // A catch of std::exception does not see the unsupported-country exception.
 TEST(ValueTypes, Exceptions) {
     EXPECT_STREQ(KesUnsupportedCountryException("XX").what(), "Country code 'XX' is not supported");
@@ -43,5 +54,4 @@ TEST(ValueTypes, Exceptions) {
               }),
               "Country code 'XX' is not supported");
     EXPECT_THROW(throw number_format_exception("bad digit"), std::invalid_argument);
-    EXPECT_TRUE(TypesafeEnum("Same") != TypesafeEnum("Same")) << "compared by id, never by name";
 }

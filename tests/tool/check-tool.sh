@@ -164,6 +164,9 @@ run diff "$data"
 site=$work/site.properties
 printf 'country = FR\next_prefix = 9\nexternal_prefix = 0\n' >"$site"
 warning="numbering: $site:3: warning: unknown key 'external_prefix', ignored: the keys are country, ext_prefix, area_codes, local_length, except_length and except_begin"
+run --site "$site" diff "$data" "$work/same" 0123456789
+expect "a site file, identical configurations" 0 "" "$warning
+no result differs: 1 number, 4 commands"
 run --site "$site" diff "$data" "$work/no-france" 0123456789
 expect "a site file whose country the new configuration does not know" 2 "" "$warning
 numbering: $site:1: error: Country code 'FR' is not supported by the dialing rules of $work/no-france/"
