@@ -54,17 +54,13 @@ std::string describe(const std::vector<KesConfigurationFinding>& findings) {
     return text.str();
 }
 
-class ConfigurationCheck : public ::testing::Test {
+class ConfigurationCheck : public testconfig::WorldTest {
 protected:
-    void SetUp() override {
-        testconfig::clearAll();
-        testconfig::write(RULES_FILE, RULES);
-        testconfig::write(MASKS_FILE, MASKS);
-        testconfig::write(SWITCHES_FILE, SWITCHES);
-        testconfig::write(AREA_FILE, AREA_CODES);
-        testconfig::write(OPERATORS_FILE, OPERATORS);
-    }
-    void TearDown() override { testconfig::clearAll(); }
+    ConfigurationCheck()
+        : WorldTest(RULES, {{MASKS_FILE, MASKS},
+                            {SWITCHES_FILE, SWITCHES},
+                            {AREA_FILE, AREA_CODES},
+                            {OPERATORS_FILE, OPERATORS}}) {}
 };
 
 /// One row per path of the check that gives a finding.

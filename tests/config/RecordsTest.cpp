@@ -21,9 +21,7 @@ namespace {
 
 class DialRulesItem : public testconfig::WorldTest {
 protected:
-    void SetUp() override {
-        testconfig::useWorld("FR = 33:00:EF:0F::France:P\nfr = 33:00:EF:0F::lower case:\n");
-    }
+    DialRulesItem() : WorldTest("FR = 33:00:EF:0F::France:P\nfr = 33:00:EF:0F::lower case:\n") {}
 };
 
 } // namespace

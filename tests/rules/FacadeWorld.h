@@ -20,15 +20,14 @@ inline const char* const DIALING_RULES =
     "PL = 48:00:EF:0F::Poland:P\n"      // national prefix 0
     "SE = 46:00:EF:0F::Sweden:P\n";     // national prefix 0, area codes
 
-class FacadeTest : public ::testing::Test {
+class FacadeTest : public testconfig::WorldTest {
 protected:
+    FacadeTest() : WorldTest(DIALING_RULES) {}
     void SetUp() override {
-        testconfig::useWorld(DIALING_RULES);
+        WorldTest::SetUp();
         facade = KesNumberingRules::getInstance();
         testhost::clear();
     }
-
-    void TearDown() override { testconfig::reload(); }
 
     void useMasks(const std::string& masks) {
         testconfig::write("dlr_cnp_mask.properties", masks);

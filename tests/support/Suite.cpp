@@ -128,10 +128,12 @@ const std::string& identityMasks() {
     return masks;
 }
 
-void useWorld(const std::string& dialingRules) {
+void useWorld(const std::string& dialingRules, const Files& files) {
     clearAll();
     write("dialingrules.properties", dialingRules);
     write("dlr_cnp_mask.properties", identityMasks());
+    for (const auto& [name, content] : files)
+        write(name, content);
     reload();
 }
 

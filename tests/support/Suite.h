@@ -93,13 +93,20 @@ inline void reload() {
 extern const char* const STANDARD_DIALING_RULES;
 /// "+C (A) x" for every calling code: a country without a mask keeps only its subscriber number.
 const std::string& identityMasks();
-/// Only `dialingRules` and the identity masks, reloaded.
-void useWorld(const std::string& dialingRules = STANDARD_DIALING_RULES);
+using Files = std::vector<std::pair<std::string, std::string>>;
+/// Only `dialingRules`, the identity masks and `files` (name, content), reloaded.
+void useWorld(const std::string& dialingRules = STANDARD_DIALING_RULES, const Files& files = {});
 
+/// A test in useWorld(dialingRules, files), reloaded after it.
 class WorldTest : public ::testing::Test {
 protected:
-    void SetUp() override { useWorld(); }
+    explicit WorldTest(std::string rules = STANDARD_DIALING_RULES, Files more = {})
+        : dialingRules(std::move(rules)), files(std::move(more)) {}
+    void SetUp() override { useWorld(dialingRules, files); }
     void TearDown() override { reload(); }
+
+    std::string dialingRules;
+    Files files;
 };
 
 } // namespace testconfig
