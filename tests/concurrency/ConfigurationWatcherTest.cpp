@@ -112,10 +112,6 @@ struct Edit {
 // Made when the test runs: the variants are another file's statics.
 std::vector<Edit> edits() {
     return {
-        {"masks saved as UTF-16",
-         {{"dlr_cnp_mask.properties", testhost::utf16(VARIANT_B[0].second)}},
-         ReloadPolicy::RefuseErrors,
-         "dlr_cnp_mask.properties"},
         {"dialing rules without a usable row",
          {{"dialingrules.properties", "\n"}},
          ReloadPolicy::RefuseErrors,
