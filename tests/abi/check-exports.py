@@ -1,12 +1,8 @@
 #!/usr/bin/env python3
-"""The shared library exports its public API and nothing else.
+"""The shared library exports what numbering/*.h declare NUMBERING_API and nothing else, and every
+class those headers define carries NUMBERING_API (else it would be missing for the library's users).
 
     check-exports.py <libNumbering.so> <public include directory>...
-
-The public API is what the headers of the include directories (numbering/*.h) declare with
-NUMBERING_API: classes, with every member, vtable and type_info, and free functions. Every symbol
-that `nm -D --defined-only` shows must belong to it, and every class those headers define must
-carry NUMBERING_API (a class without it would be missing from the library for its users).
 """
 
 import re

@@ -1,11 +1,9 @@
-// The configuration check on broken configurations: each mistake an installer can make, with the
-// finding it must give, on top of a small configuration that checks clean.
+// Each mistake an installer can make, on top of a configuration that checks clean, and its finding.
 #include "Suite.h"
 
 #include "numbering/KesConfigurationCheck.h"
 
 #include <sstream>
-#include <sys/stat.h>
 using Severity = KesConfigurationFinding::Severity;
 
 namespace {
@@ -56,17 +54,13 @@ std::string describe(const std::vector<KesConfigurationFinding>& findings) {
     return text.str();
 }
 
-class ConfigurationCheck : public ::testing::Test {
+class ConfigurationCheck : public testconfig::WorldTest {
 protected:
-    void SetUp() override {
-        testconfig::clearAll();
-        testconfig::write(RULES_FILE, RULES);
-        testconfig::write(MASKS_FILE, MASKS);
-        testconfig::write(SWITCHES_FILE, SWITCHES);
-        testconfig::write(AREA_FILE, AREA_CODES);
-        testconfig::write(OPERATORS_FILE, OPERATORS);
-    }
-    void TearDown() override { testconfig::clearAll(); }
+    ConfigurationCheck()
+        : WorldTest(RULES, {{MASKS_FILE, MASKS},
+                            {SWITCHES_FILE, SWITCHES},
+                            {AREA_FILE, AREA_CODES},
+                            {OPERATORS_FILE, OPERATORS}}) {}
 };
 
 /// One row per path of the check that gives a finding.
@@ -80,7 +74,6 @@ struct BrokenConfiguration {
 };
 
 const BrokenConfiguration BROKEN[] = {
-    // Dialing rules.
     {RULES_FILE, RULES + "fr=33:00:EF:0F:0F:Francia:\n", WARNING, 6, "fr is not two upper-case letters"},
     {RULES_FILE, RULES + "DF.x=1\n", ERROR, 6,
      "stops reading the dialing rules here, and the 2 rows after it"},
@@ -100,7 +93,6 @@ const BrokenConfiguration BROKEN[] = {
      "CO=57:00:EF:0F:60F:Colombia:P\nDE=49:00:EF:0F::Germany:P\n"
      "US=1:011:EF:1F:F:US:P\nXF=33:00:EF:0F:0F:F:P\n", // +33 without FR
      ERROR, 0, "no row FR, which the plan of +33 looks up"},
-    // Masks.
     {MASKS_FILE, "Mask_33_1=+C (A) x xx xx xx xx\n", ERROR, 0,
      "no mask for +49 (DE): without one a canonical number keeps only its subscriber number, so \"+49 "
      "(89) 123456\" becomes \"123456\""},
@@ -115,13 +107,11 @@ const BrokenConfiguration BROKEN[] = {
     {MASKS_FILE, MASKS + "Mask_49_2=+C (A) x\n", WARNING, 5,
      "Mask_49_2 is never used: Mask_49_1 comes first"},
     {MASKS_FILE, MASKS + "Mask_49_0=\n", WARNING, 5, "Mask_49_0 is empty"},
-    // Specific-format switches.
     {SWITCHES_FILE, SWITCHES + "cnp49=on\n", WARNING, 3, "cnp49 is skipped"},
     {SWITCHES_FILE, SWITCHES + "cnp_999=on\n", WARNING, 3, "no P row of the dialing rules has calling"},
     {SWITCHES_FILE, SWITCHES + "cnp_33=maybe\n", WARNING, 3, "cnp_33 = maybe is not a switch"},
     {SWITCHES_FILE, SWITCHES + "cnp_33=OFF\n", WARNING, 3,
      "switches nothing off: the library keeps only the first valid switch of the file (cnp_1)"},
-    // Numbered lists: area codes, and the Colombian operators where they differ.
     {AREA_FILE, "AC_0000=30\n", ERROR, 0, "no Translate key: the plan of +49 fails on it first"},
     {AREA_FILE, "Translate=yes\nAC_0000=30\n", WARNING, 1, "Translate = yes switches translation off"},
     {AREA_FILE, "Translate=1\nAC_0000=30\nAC_0002=89\nAC_0003=40\n", ERROR, 3,
@@ -152,7 +142,6 @@ const BrokenConfiguration BROKEN[] = {
      RULES_FILE},
     {"dlr_cnp_mask_default.properties", MASKS, NOTE, 0,
      "in use: dlr_cnp_mask_default.properties is not read at all", MASKS_FILE},
-    // The text itself.
     {MASKS_FILE, MASKS + std::string("Mask_7_1=+C\0x\n", 14), ERROR, 5, "NUL byte"},
     {MASKS_FILE, MASKS + "\x01\x02\x03\n", ERROR, 5, "binary content (byte 0x01)"},
     {MASKS_FILE, "Mask_49_1=+C x\n" + MASKS, WARNING, 1, "Mask_49_1 is set again on line 4"},
@@ -207,44 +196,12 @@ TEST_F(ConfigurationCheck, CleanConfigurationGivesNoFinding) {
               (std::vector<std::string>{RULES_FILE, MASKS_FILE, SWITCHES_FILE, AREA_FILE, OPERATORS_FILE}));
 }
 
-// A FIFO without a writer must not block the check.
-TEST_F(ConfigurationCheck, FilesThatCannotBeOpenedLeaveTheDefaultInUse) {
-    const std::string directory = testconfig::directory();
-    testconfig::remove(MASKS_FILE);
-    testconfig::remove(AREA_FILE);
-    testconfig::write("dlr_cnp_mask_default.properties", MASKS);
-    testconfig::write("tz310cnp_49_default.properties", AREA_CODES);
-    ASSERT_EQ(::mkdir((directory + MASKS_FILE).c_str(), 0755), 0);
-    ASSERT_EQ(::mkfifo((directory + AREA_FILE).c_str(), 0644), 0);
-    const KesConfigurationReport report = KesConfigurationCheck::check(directory);
-    std::vector<std::string> messages;
-    for (const KesConfigurationFinding& finding : report.findings)
-        messages.push_back(finding.file.substr(directory.size()) + ": " + finding.message);
-    EXPECT_EQ(messages,
-              (std::vector<std::string>{
-                  "dlr_cnp_mask.properties: cannot be opened (it is a directory): the library reads "
-                  "dlr_cnp_mask_default.properties instead",
-                  "tz310cnp_49.properties: cannot be opened (it is not a regular file): the library "
-                  "reads tz310cnp_49_default.properties instead"}));
-    EXPECT_EQ(report.files[1].inUse, directory + "dlr_cnp_mask_default.properties");
-}
-
-/// `text` with every character widened to `width` bytes, as UTF-16 or UTF-32 write Latin text.
-std::string widened(const std::string& text, std::size_t width, bool bigEndian) {
-    std::string wide;
-    for (char c : text) {
-        const std::string zeros(width - 1, '\0');
-        wide += bigEndian ? zeros + c : c + zeros;
-    }
-    return wide;
-}
-
 // A text editor's encodings: one error that names it, none about the keys the reader garbles.
 TEST_F(ConfigurationCheck, FileInAnotherEncodingGivesOneErrorNamingIt) {
     const std::pair<const char*, std::string> ENCODED[] = {
-        {"UTF-16 (little-endian)", "\xFF\xFE" + widened(MASKS, 2, false)},
-        {"UTF-16 (big-endian, without a byte-order mark)", widened(MASKS, 2, true)},
-        {"UTF-32 (little-endian)", std::string("\xFF\xFE\0\0", 4) + widened(MASKS, 4, false)},
+        {"UTF-16 (little-endian)", testhost::utf16(MASKS)},
+        {"UTF-16 (big-endian, without a byte-order mark)", testhost::widened(MASKS, 2, true)},
+        {"UTF-32 (little-endian)", std::string("\xFF\xFE\0\0", 4) + testhost::widened(MASKS, 4, false)},
         {"UTF-8 byte-order mark", "\xEF\xBB\xBF" + MASKS},
     };
     for (const auto& [encoding, bytes] : ENCODED) {

@@ -13,7 +13,6 @@ std::string randomDigits(std::mt19937& random, std::size_t longest) {
     return digits;
 }
 
-/// The message of the `Exception` that `insert` throws.
 template <class Exception, class Tree> std::string thrownBy(Tree& tree, const std::string& code) {
     return testhost::thrownText<Exception>([&] { tree.insert(code); });
 }
@@ -57,10 +56,8 @@ TEST(KesCharsTree, EmptyAndAbsurdlyLongCodesAreRejected) {
     EXPECT_EQ(tree.isPresent(std::string(100, '1')), std::string(64, '1'));
 }
 
-// The area code tree keeps its codes in flat tables; it must answer and print exactly as the
-// character tree it stands for would, whatever the order of the codes: an insert fails where the code
-// is already a path (301 before 30), and a number's area code is its longest path, shortened until
-// it is a code (30234 gives 30 from {30, 301}).
+// The flat tables of the area code tree answer and print as the character tree they stand for,
+// whatever the order of the codes.
 TEST(KesAreaCodeTree, AnswersAndPrintsAsTheCharacterTree) {
     std::mt19937 random(7);
     for (int round = 0; round < 200; ++round) {

@@ -1,11 +1,9 @@
-// What every plan of the registry must do, run over each of its rows: a new plan or country gets
-// these checks by its row alone. Conversions particular to one country are in ConversionsTest.
+// What every plan of the registry must do, run over each of its rows.
 
 #include "PlanWorld.h"
 
 #include <fstream>
 #include <sstream>
-#include <sys/stat.h>
 
 using namespace planworld;
 
@@ -34,32 +32,9 @@ std::vector<KesCNPRegistry::Plan> areaCodePlans() {
 class EveryPlan : public PlanTest, public ::testing::WithParamInterface<KesCNPRegistry::Plan> {};
 class EveryAreaCodePlan : public NoPlanFiles, public ::testing::WithParamInterface<KesCNPRegistry::Plan> {};
 
-/// The info texts each plan logs when its installation file cannot be opened and when it does not
-/// exist, slips included: 44 names Austria, 353 writes "Irelandd".
-std::pair<std::string, std::string> textsWhenNoFile(const std::string& code) {
-    const char* const noFile = "No specific dialing rules configuration file";
-    const char* const argentina = "No specific configuration file for Argentina";
-    static const std::map<std::string, std::pair<std::string, std::string>> texts = {
-        {"49", {noFile, noFile}},
-        {"43", {"No specific configuration file for Austria", noFile}},
-        {"31", {"No specific configuration file for Netherlands", noFile}},
-        {"32", {"No specific configuration file for Belgium", noFile}},
-        {"44", {"No specific configuration file for Austria", noFile}},
-        {"353",
-         {"No specific dialing rules configuration for Irelandd",
-          "No specific dialing rules configuration for Ireland"}},
-        {"54", {argentina, argentina}},
-        {"61", {"No specific configuration file for Australia", noFile}},
-        {"52", {"No specific configuration file for Mexico", noFile}},
-    };
-    auto found = texts.find(code);
-    return found != texts.end() ? found->second : std::make_pair(std::string("?"), std::string("?"));
-}
-
 } // namespace
 
-// The plan of the row is the class named after its calling code, made by the factory for the row's
-// country; it writes its lines only while tracing.
+// The factory makes the class named after the calling code; it writes its lines only while tracing.
 TEST_P(EveryPlan, IsTheClassOfItsCountryAndTracesOnlyWhileTracing) {
     const KesCNPRegistry::Plan& row = GetParam();
     const Site site{row.country, "0", 0, "1"};
@@ -68,8 +43,7 @@ TEST_P(EveryPlan, IsTheClassOfItsCountryAndTracesOnlyWhileTracing) {
     const std::string className = std::string("KesCNP_") + row.callingCode;
     const std::string prefix = "DEBUG " + loggerOf(className) + " - ";
     const std::string number = "0201234567";
-    // The Colombian plan names Argentina. The rules' text ends in a NUL character, so the sink
-    // shows the line up to the rules only.
+    // The Colombian plan names Argentina; the rules' text ends in a NUL, which ends the line.
     const std::string operation =
         (className == "KesCNP_54" || className == "KesCNP_57" ? "DlrArgentinaMakeCanonicalNumber('"
                                                               : "dlr_Country_MakeCanonicalNumber('") +
@@ -83,8 +57,7 @@ TEST_P(EveryPlan, IsTheClassOfItsCountryAndTracesOnlyWhileTracing) {
     }
 }
 
-// Whatever arrives, a plan answers with the canonical form or the number unchanged; without
-// dialing rules it answers with the number unchanged.
+// Whatever arrives, a plan answers with the canonical form or the number unchanged.
 TEST_P(EveryPlan, NoInputBreaksIt) {
     std::vector<std::string> inputs = {std::string(200, '0'), std::string(200, '9'),
                                        std::string("03") + '\0' + "0123"};
@@ -103,8 +76,7 @@ TEST_P(EveryPlan, NoInputBreaksIt) {
     }
 }
 
-// Only the plans that take their national prefix from their country's row convert otherwise
-// without it.
+// Only the plans that take their national prefix from their country's row convert otherwise without it.
 TEST_P(EveryPlan, ReadsItsCountrysRowOnlyWhenItLooksItUp) {
     const KesCNPRegistry::Plan& row = GetParam();
     KesDialRulesItem rules(row.country, "9", 0, "1", 0, "");
@@ -127,28 +99,7 @@ TEST_P(EveryPlan, ReadsItsCountrysRowOnlyWhenItLooksItUp) {
     EXPECT_EQ(convertAll() != withRow, row.looksUpCountry) << withRow;
 }
 
-// A missing installation file, or one that is a directory and cannot be opened: the plan's text for
-// that case once, then the default file.
-TEST_P(EveryAreaCodePlan, FallsBackToTheDefaultFileWithThePlansTexts) {
-    const KesCNPRegistry::Plan& row = GetParam();
-    const std::string directory = testconfig::directory() + row.installationFile();
-    const auto texts = textsWhenNoFile(row.callingCode);
-    for (bool unopenable : {false, true}) {
-        ASSERT_TRUE(!unopenable || ::mkdir(directory.c_str(), 0755) == 0);
-        testconfig::write(row.defaultFile(), "Translate=0\n" + areaCodeLines({"7"}));
-        testhost::Tracing off(false);
-        Poco::AutoPtr<KesAreaCodePlan> plan = filePlan(row.callingCode);
-        EXPECT_EQ(plan->areaCodeCount, 1);
-        EXPECT_EQ(plan->translate, row.reads != Reads::TranslateAndAreaCodes) << "Translate=0 read";
-        EXPECT_EQ(testhost::lines(),
-                  std::vector<std::string>{"INFO " + loggerOf(std::string("KesCNP_") + row.callingCode) +
-                                           " - " + (unopenable ? texts.first : texts.second)});
-    }
-    ::rmdir(directory.c_str());
-}
-
-// Numbers without national prefix are completed with the own area code only while "Translate" is 1;
-// the Argentine plan reads it but never consults it.
+// Local numbers get the own area code only while "Translate" is 1; Argentina reads it but ignores it.
 TEST_P(EveryAreaCodePlan, CompletesLocalNumbersOnlyWhileTranslateIsOne) {
     const KesCNPRegistry::Plan& row = GetParam();
     if (row.reads != Reads::TranslateAndAreaCodes)

@@ -1,7 +1,4 @@
-// The plan framework: the factory of plans by calling code, the manager that caches them by
-// country, how the plans that read area codes take their files (the default file and each plan's
-// texts are checked for every plan in EveryPlanTest), and what the plans write: their own debug
-// lines and the fixed cases that the self-test entry points print.
+// The factory, the manager's cache, how plans read their files, and what the plans write.
 #include "PlanWorld.h"
 
 #include "numbering/KesCNP_353.h"
@@ -23,8 +20,7 @@ TEST_F(PlanTest, CachesOnePlanPerCountryAndRemembersCountriesWithout) {
     KesCNP* german = manager->getCNP("DE");
     EXPECT_NE(dynamic_cast<KesCNP_49*>(german), nullptr);
     EXPECT_EQ(manager->getCNP("DE"), german);
-    // A lower-case key misses the cache, builds a plan under the upper-case key and, that key being
-    // taken, is answered with the cached plan.
+    // A lower-case key misses the cache; the plan it builds is filed under the upper-case key.
     EXPECT_EQ(manager->getCNP("de"), german);
     {
         testhost::Tracing on;

@@ -1,8 +1,7 @@
 #ifndef NUMBERING_TESTS_CNP_PLANWORLD_H
 #define NUMBERING_TESTS_CNP_PLANWORLD_H
 
-// The world the plan tests run in: the standard dialing rules and one plan file per plan that reads
-// area codes, written into the test program's configuration directory.
+// The plan tests' world: the standard dialing rules and a file for each plan that reads area codes.
 
 #include "Suite.h"
 
@@ -34,7 +33,6 @@ inline std::vector<const char*> worldAreaCodes(const std::string& code) {
     return found != codes.end() ? found->second : std::vector<const char*>{"20"};
 }
 
-/// "AC_0000=first\nAC_0001=second\n..." for `codes` in order.
 inline std::string areaCodeLines(const std::vector<const char*>& codes) {
     std::string lines;
     int index = 0;
@@ -53,7 +51,6 @@ inline void writePlanFile(const std::string& code, const char* translate,
     testconfig::write(KesCNPRegistry::installationFile(code), head + areaCodeLines(codes));
 }
 
-/// A new plan of `code`, owned by the pointer.
 inline Poco::AutoPtr<KesCNP> plan(const std::string& code) {
     return Poco::AutoPtr<KesCNP>(KesCNPFactory::CreateInstance(code));
 }
@@ -62,8 +59,6 @@ inline Poco::AutoPtr<KesAreaCodePlan> filePlan(const std::string& code) {
         dynamic_cast<KesAreaCodePlan*>(KesCNPFactory::CreateInstance(code)));
 }
 
-/// An installation: country, outside-line prefix, local number length, own area code and the
-/// beginning of its exception numbers.
 struct Site {
     const char* country;
     const char* extPrefix;
@@ -72,7 +67,6 @@ struct Site {
     const char* exception = "";
 
     std::string callingCode() const { return KesNumberingConfig::getInstance()->getCountryNumber(country); }
-    /// The canonical number of `typed` by a new plan of the country.
     std::string convert(const std::string& typed) const {
         KesDialRulesItem rules(country, extPrefix, localLength, ownArea, 0, exception);
         return plan(callingCode())->dlr_Country_MakeCanonicalNumber(typed, &rules);

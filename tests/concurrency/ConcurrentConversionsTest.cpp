@@ -1,6 +1,5 @@
-// Conversions from many threads with no warm-up, and reloads of the configuration while they go
-// on, on the shipped world (data/). Built again under ThreadSanitizer and AddressSanitizer by the
-// test command: besides the results checked here, the sanitizers see every race and leak.
+// Conversions from many threads, cold and under reloads, on the shipped world; the sanitizer builds
+// of the test command see every race and leak besides.
 #include "ExampleNumbers.h"
 #include "ReloadedWorld.h"
 #include "Suite.h"
@@ -19,7 +18,6 @@ namespace {
 
 const int THREADS = 8;
 
-/// One installation of every country of the shipped dialing rules, with the numbers its users type.
 struct Case {
     std::string country;
     std::vector<std::string> numbers;
@@ -38,41 +36,36 @@ std::vector<Case> everyCountry() {
     return cases;
 }
 
-/// Canonical, GSM, dialled and caller identity forms of every number of `c`, as one text each.
-std::vector<std::string> convert(const Case& c) {
-    KesNumberingRules* rules = KesNumberingRules::getInstance();
+std::vector<std::vector<std::string>> convert(const Case& c) {
     KesDialRulesItem site(c.country, "0", 4, "", 0, "");
-    std::vector<std::string> results;
-    for (const std::string& number : c.numbers) {
-        results.push_back(rules->makeCanonicalNumber(&site, number, ""));
-        results.push_back(rules->makeGSMCanonicalNumber(&site, number, false));
-        results.push_back(rules->makePhoneNumber(&site, number));
-        KesClid* clid = rules->makeClid(&site, number);
-        results.push_back(clid == nullptr ? "null" : clid->getNumber() + "/" + clid->getOrigin()->name);
-        if (clid != nullptr)
-            clid->release();
-    }
+    std::vector<std::vector<std::string>> results;
+    for (const std::string& number : c.numbers)
+        results.push_back(testhost::everyConversion(&site, number));
     return results;
 }
 
-/// After a reset every object the library made is gone.
-void expectEverythingReleased() {
-    KesNumberingRules::resetInstance();
-    EXPECT_EQ(KesCNP::_count, 0);
-    EXPECT_EQ(KesDialable::_count, 0);
-    EXPECT_EQ(KesAreaCodeTree::_count, 0);
-    EXPECT_EQ(KesCharsTreeElement::_count, 0);
-    EXPECT_EQ(KesCountryRuleItem::_count, 0);
-    EXPECT_EQ(KesClid::_count, 0);
-}
+/// Back to the directory of the start; after a reset every object the library made is gone.
+class ConcurrentConversions : public ::testing::Test {
+protected:
+    void TearDown() override {
+        KesNumberingRules::reload(std::string());
+        KesNumberingRules::resetInstance();
+        EXPECT_EQ(KesCNP::_count, 0);
+        EXPECT_EQ(KesDialable::_count, 0);
+        EXPECT_EQ(KesAreaCodeTree::_count, 0);
+        EXPECT_EQ(KesCharsTreeElement::_count, 0);
+        EXPECT_EQ(KesCountryRuleItem::_count, 0);
+        EXPECT_EQ(KesClid::_count, 0);
+    }
+};
 
 } // namespace
 
 // First in the program: nothing of the library exists before the threads start.
-TEST(ConcurrentConversions, ColdStartGivesEveryThreadTheSingleThreadedResults) {
+TEST_F(ConcurrentConversions, ColdStartGivesEveryThreadTheSingleThreadedResults) {
     const std::vector<Case> cases = everyCountry();
     ASSERT_GT(cases.size(), 200u);
-    std::vector<std::vector<std::string>> expected;
+    std::vector<std::vector<std::vector<std::string>>> expected;
     for (const Case& c : cases)
         expected.push_back(convert(c));
     KesNumberingRules::resetInstance(); // cold again: no facade, store, plan or strategy
@@ -96,15 +89,13 @@ TEST(ConcurrentConversions, ColdStartGivesEveryThreadTheSingleThreadedResults) {
     for (std::thread& thread : threads)
         thread.join();
     EXPECT_EQ(mismatches.load(), 0);
-    expectEverythingReleased();
 }
 
 namespace {
 
 using namespace reloaded;
 
-/// Threads converting the RELOADED numbers until told to stop, each result checked against the
-/// answers of the configurations it may meet.
+/// Threads converting RELOADED until stopped, each result checked against the answers it may meet.
 class Converters {
 public:
     explicit Converters(std::vector<std::vector<std::vector<std::string>>> expected)
@@ -113,7 +104,6 @@ public:
             threads.emplace_back([this, t] { run(t); });
     }
 
-    /// Stops the threads; every result they saw that none of the answers holds.
     std::vector<std::string> stop() {
         converting = false;
         for (std::thread& thread : threads)
@@ -150,10 +140,8 @@ private:
 
 } // namespace
 
-// Each reload takes the files as they are at that moment, however soon after it they change: the
-// next variant is written over the directory as soon as a reload returns, while plans that read
-// their files on first use are still to be built.
-TEST(ConcurrentConversions, EachReloadIsTheFilesOfItsMoment) {
+// Each reload takes the files of its moment: the next variant is written as soon as a reload returns.
+TEST_F(ConcurrentConversions, EachReloadIsTheFilesOfItsMoment) {
     ConfigurationCopy world("rewritten", VARIANT_A);
     KesNumberingRules::reload(world.directory());
     const auto inA = convertAll();
@@ -172,34 +160,10 @@ TEST(ConcurrentConversions, EachReloadIsTheFilesOfItsMoment) {
     EXPECT_TRUE(unexpected.empty()) << unexpected.size()
                                     << " mixed results, the first: " << unexpected.front();
     EXPECT_EQ(convertAll(), inA) << "the last reload took the first variant, written before it";
-    KesNumberingRules::reload(std::string()); // back to the directory of the start
-    expectEverythingReleased();
 }
 
-// Reloads from several threads at once while the files stay put: the answers never change.
-TEST(ConcurrentConversions, ConcurrentReloadsOfTheSameFiles) {
-    ConfigurationCopy world("still", VARIANT_B);
-    KesNumberingRules::reload(world.directory());
-    const auto answers = convertAll();
-    Converters converters({answers});
-    std::vector<std::thread> reloaders;
-    for (int t = 0; t < 2; ++t)
-        reloaders.emplace_back([] {
-            for (int n = 0; n < 100; ++n)
-                KesNumberingRules::reload();
-        });
-    for (std::thread& reloader : reloaders)
-        reloader.join();
-    const std::vector<std::string> unexpected = converters.stop();
-    EXPECT_TRUE(unexpected.empty()) << unexpected.size()
-                                    << " other results, the first: " << unexpected.front();
-    KesNumberingRules::reload(std::string());
-    expectEverythingReleased();
-}
-
-// A host holds a cache across a reset of the store alone: the cache, its plans and strategies and
-// its memory of failed countries stay; only the store is read again.
-TEST(ConcurrentConversions, CachesHeldAcrossAResetOfTheStore) {
+// A host's cache, its plans, strategies and failed countries stay across a reset of the store alone.
+TEST_F(ConcurrentConversions, CachesHeldAcrossAResetOfTheStore) {
     ConfigurationCopy world(
         "held", {{"dialingrules.properties", "FR=33:00:F:F::France:P\nCO=57:00:F:F::Colombia:P\n"}});
     KesNumberingRules::reload(world.directory());
@@ -223,35 +187,27 @@ TEST(ConcurrentConversions, CachesHeldAcrossAResetOfTheStore) {
     KesCNPManager::resetInstance();
     EXPECT_EQ(KesDialableManager::getInstance(), strategies) << "the strategies stay";
     EXPECT_NE(KesCNPManager::getInstance()->getCNP("DE"), nullptr) << "a new manager tries again";
-    KesNumberingRules::reload(std::string());
-    expectEverythingReleased();
 }
 
-// The configuration check beside conversions and reloads (a host checks a directory before it
-// reloads from it): it shares nothing with them.
-TEST(ConcurrentConversions, ConfigurationCheckSharesNothingWithThem) {
-    std::atomic<bool> checking{true};
-    std::atomic<int> empty{0};
-    std::vector<std::thread> threads;
+// Reloads from two threads at once while the files stay put, beside the configuration check (a host
+// checks a directory before it reloads from it): the answers never change.
+TEST_F(ConcurrentConversions, ConcurrentReloadsAndChecksOfTheSameFiles) {
+    ConfigurationCopy world("still", VARIANT_B);
+    KesNumberingRules::reload(world.directory());
+    Converters converters({convertAll()});
+    std::vector<std::thread> reloaders;
     for (int t = 0; t < 2; ++t)
-        threads.emplace_back([&] {
-            KesDialRulesItem munich("DE", "0", 4, "89", 0, "");
-            while (checking)
-                if (KesNumberingRules::getInstance()->makeCanonicalNumber(&munich, "0301234567", "").empty())
-                    ++empty;
+        reloaders.emplace_back([] {
+            for (int n = 0; n < 100; ++n)
+                KesNumberingRules::reload();
         });
-    threads.emplace_back([&] {
-        while (checking)
-            KesNumberingRules::reload();
-    });
     std::size_t findings = 0;
     for (int round = 0; round < 2; ++round)
         findings += KesConfigurationCheck::check(NUMBERING_SHIPPED_DATA).findings.size();
-    checking = false;
-    for (std::thread& thread : threads)
-        thread.join();
-
+    for (std::thread& reloader : reloaders)
+        reloader.join();
+    const std::vector<std::string> unexpected = converters.stop();
+    EXPECT_TRUE(unexpected.empty()) << unexpected.size()
+                                    << " other results, the first: " << unexpected.front();
     EXPECT_EQ(findings, 0u) << "the shipped configuration checks clean";
-    EXPECT_EQ(empty.load(), 0);
-    KesNumberingRules::resetInstance();
 }

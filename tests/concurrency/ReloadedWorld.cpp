@@ -76,13 +76,6 @@ const ConfigurationCopy::Files VARIANT_B = {
     {"tz310cnp_49.properties", "Translate=1\nAC_0000=30\nAC_0001=891\n"},
     {"dialingrules.properties", dialingRulesWithFrenchPrefix("000")}};
 
-std::string utf16(const std::string& text) {
-    std::string saved = "\xFF\xFE";
-    for (const char c : text)
-        saved += std::string{c, '\0'};
-    return saved;
-}
-
 std::vector<std::string> convertOnce(const Typed& typed) {
     numbering::KesNumberingRules* rules = numbering::KesNumberingRules::getInstance();
     numbering::KesDialRulesItem site(typed.country, "0", 4, "", 0, "");

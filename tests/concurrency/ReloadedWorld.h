@@ -1,8 +1,7 @@
 #ifndef NUMBERING_TESTS_RELOADEDWORLD_H
 #define NUMBERING_TESTS_RELOADEDWORLD_H
 
-// Two variants of the shipped configuration (data/) that give other results for a few numbers,
-// written into directories of their own, for the tests that reload, refuse and watch.
+// Two variants of the shipped configuration that convert a few numbers otherwise.
 
 #include <filesystem>
 #include <string>
@@ -22,31 +21,24 @@ public:
     ConfigurationCopy& operator=(const ConfigurationCopy&) = delete;
 
     std::string directory() const { return path.string() + "/"; }
-    /// Replaces the content of `files`.
     void write(const Files& files) const;
 
 private:
     std::filesystem::path path;
 };
 
-/// A number typed at an installation of a country.
 struct Typed {
     const char* country;
     const char* number;
 };
 
-/// Numbers whose every form differs between the two variants below: the German area codes (plan
-/// file), the masks (store) and the French international prefix (dialing rules).
+/// Numbers whose every form differs between the variants: area codes, masks, international prefix.
 extern const std::vector<Typed> RELOADED;
 extern const ConfigurationCopy::Files VARIANT_A;
 extern const ConfigurationCopy::Files VARIANT_B;
 
-/// `text` as an editor saves it in UTF-16: a configuration check error.
-std::string utf16(const std::string& text);
-
-/// The canonical, GSM and dialled forms of one number: three conversions, each on one configuration.
+/// The canonical, GSM and dialled forms of one number.
 std::vector<std::string> convertOnce(const Typed& typed);
-/// convertOnce of every RELOADED number.
 std::vector<std::vector<std::string>> convertAll();
 
 } // namespace reloaded

@@ -21,9 +21,7 @@ namespace {
 
 class DialRulesItem : public testconfig::WorldTest {
 protected:
-    void SetUp() override {
-        testconfig::useWorld("FR = 33:00:EF:0F::France:P\nfr = 33:00:EF:0F::lower case:\n");
-    }
+    DialRulesItem() : WorldTest("FR = 33:00:EF:0F::France:P\nfr = 33:00:EF:0F::lower case:\n") {}
 };
 
 } // namespace
@@ -72,8 +70,7 @@ TEST_F(DialRulesItem, LengthsAreaCodesAndText) {
               std::vector<std::string>{"DEBUG N9numbering16KesDialRulesItemE - isLocalNumber('1234')=false"});
 }
 
-// A host's installation from its site file: every setting reaches the KesDialRulesItem; the tool's
-// tests cover the findings of check().
+// Every setting of a site file reaches the KesDialRulesItem (the tool's tests cover check()).
 TEST_F(DialRulesItem, SiteFileMakesTheHostsInstallation) {
     const std::string path = testconfig::directory() + "site.properties";
     testconfig::write("site.properties", "# Paris\ncountry = FR\next_prefix = 9\narea_codes = 1, 2\n"

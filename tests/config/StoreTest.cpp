@@ -14,7 +14,6 @@ protected:
         testconfig::reload();
         return KesNumberingConfig::getInstance();
     }
-    /// France and Germany, with these masks and specific-format switches.
     KesNumberingConfig* load(const std::string& masks, const std::string& switches) {
         testconfig::write("dlr_cnp_mask.properties", masks);
         testconfig::write("specific_format_activation.properties", switches);
@@ -42,8 +41,7 @@ TEST_F(NumberingConfig, FieldSplitting) {
     EXPECT_EQ(config->getCountryRule("DD")->getInternatRule(), "EF");
 }
 
-// Of rows sharing a calling code or a name the first key wins; codes are looked up by their two
-// characters as written; names list byte-wise; the shortest calling code wins, up to four characters.
+// The first key of a calling code or name wins; names list byte-wise; the shortest code wins.
 TEST_F(NumberingConfig, LookUps) {
     KesNumberingConfig* config = load("CA = 1:011:EF:1F::North America:P\n"
                                       "US = 1:011:EF:1F::North America:P\n"
@@ -70,8 +68,7 @@ TEST_F(NumberingConfig, LookUps) {
     EXPECT_EQ(config->extractCountryNumber("+12685551234"), "") << "a plus is not stripped";
 }
 
-// With both present the installation file alone counts: the two are never merged. (The default
-// files read in place of missing or unopenable ones: HostileConfigurationTest.)
+// With both present the installation file alone counts: the two are never merged.
 TEST_F(NumberingConfig, DefaultFileIsNotReadBesideTheInstallationFile) {
     testconfig::write("dialingrules_default.properties", "DE = 49:00:EF:0F::Germany:P\n");
     KesNumberingConfig* config = load("FR = 33:00:EF:0F::France:P\n");
@@ -91,8 +88,7 @@ TEST_F(NumberingConfig, NoFileAtAllLeavesAnEmptyStore) {
     EXPECT_FALSE(config->loadDialingRules());
 }
 
-// Poco's reading: the last value of a repeated key, references expanded. A key with a dot cannot be
-// read back (the keys come as "DE", "FR", "NL", "x") and ends the loading; rows before it stay.
+// The last value of a key counts, references expanded; a key with a dot ends the loading.
 TEST_F(NumberingConfig, BrokenFilesLoadWhatTheyCan) {
     KesNumberingConfig* config = load("FR = 33:00:EF:0F::France:P\n"
                                       "DE = 99:00:EF:0F::Wrong:P\n"
@@ -138,8 +134,7 @@ TEST_F(NumberingConfig, MaskKeysAndTheCountLine) {
               lines.end());
 }
 
-// Only the first valid switch of the file counts, filed under 0: every country number reading as
-// non-zero stays active.
+// Only the first valid switch counts, filed under 0: every other country number stays active.
 TEST_F(NumberingConfig, SwitchesAreFiledUnderZero) {
     struct Case {
         const char* file;

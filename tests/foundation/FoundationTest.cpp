@@ -1,7 +1,6 @@
 #include "Suite.h"
 
-// What reaches the sink: level, logger name, separator, then the message with control characters
-// escaped, other bytes as they are, ending at a NUL as the C string the sink receives would.
+// Level, logger, separator, the message with controls escaped and cut at a NUL as a C string would.
 TEST(Logger, LineLayoutAndEscaping) {
     const std::string cases[][2] = {
         {"", ""},
@@ -42,8 +41,7 @@ TEST(ValueTypes, OriginsAreNumberedInDeclarationOrder) {
     EXPECT_TRUE(TypesafeEnum("Same") != TypesafeEnum("Same")) << "compared by id, never by name";
 }
 
-// The unsupported-country exception derives from no standard exception: a catch of std::exception
-// does not see it.
+// A catch of std::exception does not see the unsupported-country exception.
 TEST(ValueTypes, Exceptions) {
     EXPECT_STREQ(KesUnsupportedCountryException("XX").what(), "Country code 'XX' is not supported");
     EXPECT_STREQ(KesUnsupportedCountryException("XX", "Dialing rules configuration can not be loaded").what(),

@@ -1,31 +1,27 @@
 // Configuration files far larger than any real one, and installation files that cannot be read: the
 // library loads what it can and keeps converting without taking the host down. (The property-file
 // fuzzer feeds it broken ones.)
-#include "Suite.h"
+#include "../cnp/PlanWorld.h"
 
+#include "numbering/KesConfigurationCheck.h"
+
+#include <fstream>
+#include <functional>
 #include <sys/stat.h>
 #include <unistd.h>
 
 namespace {
 
-/// Every public conversion at an installation in countries with a plan or a strategy of their own.
-/// Returns how many conversions gave a non-empty answer.
+/// How many conversions give an answer in countries with a plan or a strategy of their own.
 int convertEverything() {
-    KesNumberingRules* rules = KesNumberingRules::getInstance();
     int answers = 0;
     for (const char* country :
          {"FR", "DE", "AT", "NL", "BE", "GB", "IE", "AU", "AR", "MX", "CO", "RU", "US", "CH", "NZ", "IT"}) {
         KesDialRulesItem site(country, "0", 4, "11", 0, "00");
         for (const char* number : {"01 23 45 67 89", "+49 (89) 123456", "0111543215678", "033001234567",
-                                   "84951234567", "5551234", "*12#", "+"}) {
-            answers += !rules->makeCanonicalNumber(&site, number, "").empty() +
-                       !rules->makeCanonicalNumber(&site, number, "", true).empty() +
-                       !rules->makePhoneNumber(&site, number).empty() +
-                       !rules->addExternalPrefix(&site, number).empty() +
-                       !rules->makeGSMCanonicalNumber(&site, number, false).empty();
-            Poco::AutoPtr<KesClid> clid(rules->makeClid(&site, number));
-            answers += !clid.isNull();
-        }
+                                   "84951234567", "5551234", "*12#", "+"})
+            for (const std::string& result : testhost::everyConversion(&site, number))
+                answers += !result.empty();
     }
     return answers;
 }
@@ -63,61 +59,119 @@ TEST(HostileConfiguration, HugeFiles) {
     testconfig::reload();
 }
 
-// The store's default-file fallback, once for each of its three files: an installation file that is
-// missing, or exists but cannot be read as a regular file, gives the file's info text once and the
-// default file is read. A FIFO without a writer is never waited on. (The plans: EveryPlanTest.)
-TEST(HostileConfiguration, UnopenableFilesAreReadAsMissingAndTheDefaultFileIsUsed) {
-    const struct {
-        const char* file;
-        const char* defaultContent;
-        const char* text;
-        bool (*defaultRead)(KesNumberingConfig*);
-    } files[] = {
-        {"dialingrules", "NL = 31:00:EF:0F::Netherlands:P\n", "No specific dialing rules configuration file",
-         [](KesNumberingConfig* c) { return c->getCountryNumber("NL") == "31"; }},
-        {"dlr_cnp_mask", "Mask_49_1 = default\n", "No specific dialing rules configuration file",
-         [](KesNumberingConfig* c) { return c->getDefaultPattern("49") == "default"; }},
-        {"specific_format_activation", "cnp_49 = off\n", "No specific format activation configuration file",
-         [](KesNumberingConfig* c) { return !c->isSpecificFormatActiveForCountry("0"); }},
+namespace {
+
+/// A file the library reads with a default beside it, how to tell that the default was read, and
+/// the reader's info texts for an unopenable and for a missing file.
+struct FileWithDefault {
+    std::string name, defaultContent;
+    std::function<bool()> defaultRead;
+    std::string logger;
+    std::pair<std::string, std::string> texts;
+};
+
+/// The store's three files and the file of every plan that reads area codes, with each plan's
+/// texts, slips included: 44 names Austria, 353 writes "Irelandd".
+std::vector<FileWithDefault> filesWithDefaults() {
+    const std::string noFile = "No specific dialing rules configuration file",
+                      store = "N9numbering18KesNumberingConfigE";
+    const std::string noSwitches = "No specific format activation configuration file";
+    std::vector<FileWithDefault> files = {
+        {"dialingrules",
+         "NL = 31:00:EF:0F::Netherlands:P\n",
+         [] { return KesNumberingConfig::getInstance()->getCountryNumber("NL") == "31"; },
+         store,
+         {noFile, noFile}},
+        {"dlr_cnp_mask",
+         "Mask_49_1 = default\n",
+         [] { return KesNumberingConfig::getInstance()->getDefaultPattern("49") == "default"; },
+         store,
+         {noFile, noFile}},
+        {"specific_format_activation",
+         "cnp_49 = off\n",
+         [] { return !KesNumberingConfig::getInstance()->isSpecificFormatActiveForCountry("0"); },
+         store,
+         {noSwitches, noSwitches}},
     };
+    const std::string argentina = "No specific configuration file for Argentina";
+    const std::map<std::string, std::pair<std::string, std::string>> planTexts = {
+        {"49", {noFile, noFile}},
+        {"43", {"No specific configuration file for Austria", noFile}},
+        {"31", {"No specific configuration file for Netherlands", noFile}},
+        {"32", {"No specific configuration file for Belgium", noFile}},
+        {"44", {"No specific configuration file for Austria", noFile}},
+        {"353",
+         {"No specific dialing rules configuration for Irelandd",
+          "No specific dialing rules configuration for Ireland"}},
+        {"54", {argentina, argentina}},
+        {"61", {"No specific configuration file for Australia", noFile}},
+        {"52", {"No specific configuration file for Mexico", noFile}},
+    };
+    for (const KesCNPRegistry::Plan& plan : KesCNPRegistry::plans())
+        if (plan.readsAreaCodes()) {
+            const std::string code = plan.callingCode;
+            files.push_back({"tz310cnp_" + code, "Translate=1\nAC_0000=7\n",
+                             [code] { return planworld::filePlan(code)->areaCodeCount == 1; },
+                             planworld::loggerOf("KesCNP_" + code), planTexts.at(code)});
+        }
+    return files;
+}
+
+} // namespace
+
+// A missing installation file, or one that cannot be read as a regular file (a FIFO is never waited
+// on): the reader's text for the case once, then the default; the configuration check says so.
+TEST(HostileConfiguration, UnreadableInstallationFilesFallBackOnTheirDefaults) {
     const struct {
-        const char* kind;
-        bool (*make)(const std::string& file);
+        const char* whyNot; // null: missing
+        bool (*make)(const std::string& path);
     } kinds[] = {
-        {"missing", [](const std::string&) { return true; }},
-        {"directory", [](const std::string& file) { return ::mkdir(file.c_str(), 0755) == 0; }},
-        {"FIFO", [](const std::string& file) { return ::mkfifo(file.c_str(), 0644) == 0; }},
-        {"symbolic link loop",
-         [](const std::string& file) { return ::symlink(file.c_str(), file.c_str()) == 0; }},
+        {nullptr, [](const std::string&) { return true; }},
+        {"it is a directory", [](const std::string& path) { return ::mkdir(path.c_str(), 0755) == 0; }},
+        {"it is not a regular file",
+         [](const std::string& path) { return ::mkfifo(path.c_str(), 0644) == 0; }},
+        {"too many levels of symbolic links",
+         [](const std::string& path) { return ::symlink(path.c_str(), path.c_str()) == 0; }},
         // Root reads a file without read permission all the same.
-        {"no read permission",
-         [](const std::string& file) {
-             testconfig::write(file.substr(testconfig::directory().size()), "FR = 33:00:EF:0F::France:P\n");
-             return ::geteuid() != 0 && ::chmod(file.c_str(), 0) == 0;
+        {"permission denied",
+         [](const std::string& path) {
+             std::ofstream(path) << "FR = 33:00:EF:0F::France:P\n";
+             return ::geteuid() != 0 && ::chmod(path.c_str(), 0) == 0;
          }},
     };
-    for (const auto& file : files)
+    const std::string directory = testconfig::directory();
+    for (const FileWithDefault& file : filesWithDefaults())
         for (const auto& kind : kinds) {
-            SCOPED_TRACE(std::string(file.file) + ": " + kind.kind);
-            const std::string name = std::string(file.file) + ".properties",
-                              path = testconfig::directory() + name;
-            testconfig::clearAll();
-            ::rmdir(path.c_str());
-            // The store's other files exist, so that only the file under test falls back.
-            testconfig::write("dialingrules.properties", "DE = 49:00:EF:0F::Germany:P\n");
-            testconfig::write("dlr_cnp_mask.properties", "");
+            const std::string installation = file.name + ".properties",
+                              fallback = file.name + "_default.properties";
+            SCOPED_TRACE(installation + ": " + (kind.whyNot != nullptr ? kind.whyNot : "missing"));
+            testconfig::useWorld();
             testconfig::write("specific_format_activation.properties", "");
-            testconfig::remove(name);
-            testconfig::write(std::string(file.file) + "_default.properties", file.defaultContent);
-            if (!kind.make(path))
+            testconfig::remove(installation);
+            testconfig::write(fallback, file.defaultContent);
+            if (!kind.make(directory + installation))
                 continue;
             testconfig::reload();
             testhost::clear();
-            EXPECT_TRUE(file.defaultRead(KesNumberingConfig::getInstance()));
-            EXPECT_EQ(
-                testhost::countLogged(std::string("INFO N9numbering18KesNumberingConfigE - ") + file.text),
-                1);
-            ::rmdir(path.c_str());
+            EXPECT_TRUE(file.defaultRead());
+            const std::string& text = kind.whyNot != nullptr ? file.texts.first : file.texts.second;
+            EXPECT_EQ(testhost::lines(), std::vector<std::string>{"INFO " + file.logger + " - " + text});
+
+            const KesConfigurationReport report = KesConfigurationCheck::check(directory);
+            std::string inUse;
+            for (const KesConfigurationFile& checked : report.files)
+                if (checked.installationFile == directory + installation)
+                    inUse = checked.inUse;
+            EXPECT_EQ(inUse, directory + fallback);
+            std::vector<std::string> findings;
+            for (const KesConfigurationFinding& finding : report.findings)
+                if (finding.file == directory + installation)
+                    findings.push_back(finding.message);
+            EXPECT_EQ(findings,
+                      kind.whyNot == nullptr
+                          ? std::vector<std::string>()
+                          : std::vector<std::string>{"cannot be opened (" + std::string(kind.whyNot) +
+                                                     "): the library reads " + fallback + " instead"});
         }
     testconfig::clearAll();
     testconfig::reload();

@@ -1,8 +1,6 @@
 #!/usr/bin/env bash
-# Installs the build tree into a scratch prefix, moves the installed tree elsewhere, and uses it
-# from there the way programs do: a consumer built through the exported CMake package, one built
-# with plain pkg-config, and the installed tool. Nothing may remember the prefix it was installed
-# to, and nothing runs with LD_LIBRARY_PATH.
+# A prefix install, moved elsewhere, used by consumers through CMake and pkg-config and by its tool,
+# none remembering the prefix or needing LD_LIBRARY_PATH.
 #   check-install.sh <build directory>
 set -euo pipefail
 build_dir=$1
@@ -29,8 +27,7 @@ g++ -std=c++17 "$source_dir/main.cpp" -o "$work/pc-consumer" $(pkg-config --cfla
   -Wl,-rpath,"$(pkg-config --variable=libdir numbering)"
 echo "pkg-config consumer: $(NUMBERING_CONFIG_DIR=$prefix/share/numbering/ "$work/pc-consumer")"
 
-# The tool finds the library through its RUNPATH and the shipped configuration beside it: an
-# installation mask file placed there changes its layout.
+# The tool finds the library by its RUNPATH and the configuration beside it, where a mask file counts.
 tool=$prefix/bin/numbering
 readelf -d "$tool" | grep -q 'RUNPATH.*\$ORIGIN/'
 "$tool" --version

@@ -1,8 +1,6 @@
 #!/usr/bin/env bash
-# Builds the Debian packages of the build tree (cpack -G DEB) into a scratch directory, checks
-# what each holds, runs lintian on each (no tag may remain, informational and pedantic ones
-# included), and uses them unpacked into a scratch root as an installer does: numbering init, then
-# a conversion, and a program's flags from pkg-config.
+# The Debian packages: what each holds, no lintian tag of any level, and unpacked as an installer
+# uses them: numbering init, a conversion, a program's flags from pkg-config.
 #   check-packages.sh <build directory> <source directory>
 set -euo pipefail
 build_dir=$1
@@ -35,8 +33,7 @@ holds libnumbering-dev "\./usr/lib/$multiarch/libNumbering\.so" "\./usr/include/
 holds numbering "\./usr/bin/numbering" "\./usr/share/numbering/dialingrules_default\.properties" \
     "\./usr/share/numbering/sample_numbers\.txt"
 
-# The manual page comes with the tool's documentation; until its source is in the tree, lintian's
-# complaint about it is expected.
+# Until the manual page's source is in the tree, lintian's complaint about it is expected.
 suppress=()
 if [ ! -e "$source_dir/tools/numbering/numbering.1.scd" ]; then
     suppress=(--suppress-tags no-manual-page)

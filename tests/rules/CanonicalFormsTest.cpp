@@ -1,5 +1,4 @@
-// What the facade reads from and writes into canonical numbers: the default canonical form, the
-// masks, the decomposition and the compact GSM form.
+// The default canonical form, the masks, the decomposition and the compact GSM form.
 #include "FacadeWorld.h"
 
 using CanonicalForms = facadeworld::FacadeTest;

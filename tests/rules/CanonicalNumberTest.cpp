@@ -4,8 +4,6 @@
 
 using CanonicalNumber = facadeworld::FacadeTest;
 
-// Sweden and its neighbours have no plan, so the generic rules decide from their prefixes; France,
-// Colombia and New Zealand have one.
 TEST_F(CanonicalNumber, TypedNumbers) {
     KesDialRulesItem stockholm = facadeworld::stockholm(), paris = facadeworld::paris();
     KesDialRulesItem local = facadeworld::stockholm(5), exception = facadeworld::stockholm(0, "18");

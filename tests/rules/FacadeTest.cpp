@@ -1,5 +1,7 @@
 #include "FacadeWorld.h"
 
+#include "numbering/KesExplanation.h"
+
 #include <functional>
 
 using Facade = facadeworld::FacadeTest;
@@ -61,8 +63,8 @@ TEST_F(Facade, CallerLineIdentities) {
     EXPECT_EQ(KesClid::_count, before);
 }
 
-// Every conversion that takes installation rules and a number refuses a null rules pointer and an
-// empty number with the same two messages.
+// Every conversion, and its explanation, refuses null installation rules and an empty number with
+// the same two messages.
 TEST_F(Facade, MissingArgumentsOfEveryConversion) {
     KesDialRulesItem rules = facadeworld::stockholm();
     const std::function<void(KesDialRulesItem*, const std::string&)> conversions[] = {
@@ -71,6 +73,7 @@ TEST_F(Facade, MissingArgumentsOfEveryConversion) {
         [&](KesDialRulesItem* r, const std::string& n) { facade->makePhoneNumber(r, n); },
         [&](KesDialRulesItem* r, const std::string& n) { facade->addExternalPrefix(r, n); },
         [&](KesDialRulesItem* r, const std::string& n) { Poco::AutoPtr<KesClid>(facade->makeClid(r, n)); },
+        [&](KesDialRulesItem* r, const std::string& n) { KesExplanation::of(r, n); },
     };
     for (const auto& convert : conversions) {
         EXPECT_EQ(testhost::thrownText<std::invalid_argument>([&] { convert(nullptr, ""); }),
@@ -80,22 +83,16 @@ TEST_F(Facade, MissingArgumentsOfEveryConversion) {
     }
 }
 
-// Numbers come from outside (a calling number from a trunk, what a user typed). Whatever they hold,
-// every line the sink receives stays one log line with no terminal control in it (the line break
-// before "DialRules:" is the library's own and the only one), and no debug text is written while
-// tracing is off. (The conversion fuzzer sees that no input fails the host.)
+// Whatever a number from outside holds, every line the sink receives stays one log line without
+// terminal controls (but the library's own break before "DialRules:"), and none is debug text while
+// tracing is off.
 class OddInputs : public facadeworld::FacadeTest {
 protected:
     void convertAll(const std::string& number) {
         for (KesDialRulesItem* rules : {&paris, &stockholm}) {
-            facade->makeCanonicalNumber(rules, number, "");
-            facade->makeCanonicalNumber(rules, number, "+C (A) x\n", true);
-            facade->makeGSMCanonicalNumber(rules, number, true);
-            facade->makePhoneNumber(rules, number);
-            facade->addExternalPrefix(rules, number);
+            testhost::everyConversion(rules, number);
             facade->makeDialableNumber(rules, number);
             facade->isPrefixNeeded(rules, number);
-            Poco::AutoPtr<KesClid> clid(facade->makeClid(rules, number));
         }
         facade->getCountryCode(number);
         facade->getCountryName(number);

@@ -1,16 +1,12 @@
 #ifndef NUMBERING_TESTS_RULES_FACADEWORLD_H
 #define NUMBERING_TESTS_RULES_FACADEWORLD_H
 
-// The configuration the facade's tests convert in. Sweden, Italy, Spain, Poland, Belarus, Denmark
-// and Norway have no numbering plan, so the generic rules alone decide their canonical numbers;
-// France, Germany, Colombia and New Zealand have one.
+// The facade's world: only France, Germany, Colombia and New Zealand have a numbering plan.
 
 #include "Suite.h"
 
 namespace facadeworld {
 
-// Field order: calling code, international prefix, international rule, long-distance rule, local
-// rule, name, primary flag.
 inline const char* const DIALING_RULES =
     "BY = 375:810:EF:8F::Belarus:P\n"   // national prefix 8
     "CO = 57:00:EF:0F::Colombia:P\n"    // has a plan
@@ -24,18 +20,15 @@ inline const char* const DIALING_RULES =
     "PL = 48:00:EF:0F::Poland:P\n"      // national prefix 0
     "SE = 46:00:EF:0F::Sweden:P\n";     // national prefix 0, area codes
 
-/// Each test starts from this world, with masks that keep every layout, and from fresh singletons.
-class FacadeTest : public ::testing::Test {
+class FacadeTest : public testconfig::WorldTest {
 protected:
+    FacadeTest() : WorldTest(DIALING_RULES) {}
     void SetUp() override {
-        testconfig::useWorld(DIALING_RULES);
+        WorldTest::SetUp();
         facade = KesNumberingRules::getInstance();
         testhost::clear();
     }
 
-    void TearDown() override { testconfig::reload(); }
-
-    /// Installs masks ("Mask_46_1 = ...") and reloads.
     void useMasks(const std::string& masks) {
         testconfig::write("dlr_cnp_mask.properties", masks);
         testconfig::reload();
@@ -45,12 +38,11 @@ protected:
     KesNumberingRules* facade = nullptr;
 };
 
-/// An installation in Stockholm (area code 8) that seizes an outside line with "0".
+/// Installations in Stockholm (area code 8) and Paris (1) that seize an outside line with "0".
 inline KesDialRulesItem stockholm(int localNbLength = 0, const std::string& exceptNbBegin = "") {
     return KesDialRulesItem("SE", "0", localNbLength, "8", 0, exceptNbBegin);
 }
 
-/// An installation in Paris (area code 1) that seizes an outside line with "0".
 inline KesDialRulesItem paris(int localNbLength = 0, const std::string& exceptNbBegin = "") {
     return KesDialRulesItem("FR", "0", localNbLength, "1", 0, exceptNbBegin);
 }

@@ -1,5 +1,4 @@
-// The shipped example numbers, typed in national form at an installation of their own country, come
-// out as the right international numbers: canonical, GSM, and dialled back to what was typed.
+// The shipped example numbers typed nationally at home: canonical, GSM, and dialled back as typed.
 
 #include "ExampleNumbers.h"
 #include "Suite.h"
@@ -12,26 +11,18 @@ using namespace shipped;
 
 namespace {
 
-// Installations as "country outside-line-prefix own-area": every country with a plan (with some that
-// share a plan's calling code) and a spread of others, with a realistic outside-line prefix and own
-// area, away from the area of the example so that it dials back in long-distance form. Every other
-// country of the file is checked at an installation with the outside-line prefix "0" and no own area.
+// "country outside-line-prefix own-area", away from the example's area so that it dials back in
+// long-distance form; other countries at "0" with no own area.
 const char* const INSTALLATIONS[] = {
-    // Countries with a plan.
     "US 9 212", "CA 9 416", "RU 9 495", "KZ 0 7172", "NL 0 20", "BE 0 2", "FR 0", "CH 0 44", "AT 0 316",
     "GB 9 20", "JE 9", "DE 0 89", "MX 0 55", "AR 0 351", "CO 0 1", "AU 0 3", "CX 0", "NZ 1 9", "IE 9 1",
-    // Countries without a plan: HU has the trunk prefix 06, BY the trunk prefix 8 and the
-    // international prefix 810, BR the international prefix 0012 (carrier 12).
+    // Without a plan: trunk prefixes 06 (HU) and 8 (BY), international prefixes 810 (BY), 0012 (BR).
     "FI 0 9", "HU 9 1", "BY 0 17", "UA 0 44", "TR 0 312", "IL 0 3", "ZA 0 21", "JP 0 6", "CN 0 21", "IN 0 22",
     "BR 0 21", "CZ 9"};
 
-// The examples typed otherwise than behind the country's trunk prefix; null: not typed at all.
-// AR mobile: the plan writes "+54 9 (11) ...", and the canonical layout, looking for the mask of
-// "54 9", drops everything before the subscriber number (ArgentineMobile below checks the plan alone).
-// CO fixed: the plan writes fixed numbers in the zone-digit form used before 2021, "+57 (1) 2345678",
-// so no national input gives today's "+57 601 2345678" (see ColombianFixedNumber below).
-// CO mobile: typed in the fixed-to-mobile form "03" + number that the plan reads; "0" + number is
-// taken for that form and loses the 3.
+// Examples typed otherwise than behind the trunk prefix (null: not typed; checked below instead):
+// "+54 9 (11) ..." finds no mask of "54 9"; the Colombian plan writes the zone-digit form of before
+// 2021; a Colombian mobile is read behind the fixed-to-mobile "03".
 const struct {
     const char* country;
     bool mobile;
@@ -53,8 +44,7 @@ std::vector<NationalCase> cases() {
         for (const char* installation : INSTALLATIONS)
             if (std::string(installation).compare(0, 3, country + " ") == 0)
                 std::istringstream(installation) >> country >> extPrefix >> ownArea;
-        // Without a trunk prefix and without a plan there is neither an area code nor a national
-        // prefix to put in the parentheses: the generic rules write "+cc number".
+        // Without a trunk prefix or a plan nothing goes in parentheses: "+cc number".
         bool areaLayout =
             !examples.nationalPrefix.empty() || KesCNPRegistry::find(examples.callingCode) != nullptr;
         for (bool mobile : {false, true}) {
@@ -109,8 +99,7 @@ TEST_P(ShippedExamples, TypedNationallyGiveTheInternationalNumber) {
     std::string gsm = rules->makeGSMCanonicalNumber(&installation, c.typed, false);
     EXPECT_EQ(std::regex_replace(gsm, std::regex(" "), ""), "+" + c.callingCode + c.nsn) << gsm;
 
-    // The generic form "+cc number" is read back as "+cc (number) ", which leaves nothing to dial:
-    // only the parenthesised layout makes the round trip.
+    // "+cc number" reads back as "+cc (number) ", nothing to dial: only "+cc (area) x" round-trips.
     if (c.areaLayout) {
         EXPECT_EQ(rules->makePhoneNumber(&installation, canonical), c.extPrefix + c.typed) << canonical;
     }
@@ -119,9 +108,6 @@ TEST_P(ShippedExamples, TypedNationallyGiveTheInternationalNumber) {
 
 INSTANTIATE_TEST_SUITE_P(Shipped, ShippedExamples, ::testing::ValuesIn(cases()),
                          [](const ::testing::TestParamInfo<NationalCase>& test) { return test.param.name; });
-
-// Example numbers whose canonical form the full conversion cannot show as "+cc (area) subscriber":
-// what the shipped world still gets right for them.
 
 // The Argentine mobile example carries the international mobile marker 9 in front of the area code.
 TEST(ArgentineMobile, ThePlanWritesItWithTheMobileMarkerAndTheShippedAreaCode) {
@@ -143,8 +129,7 @@ TEST(ArgentineMobile, ThePlanWritesItWithTheMobileMarkerAndTheShippedAreaCode) {
               canonical);
 }
 
-// A Colombian fixed number is 60 + zone digit + 7 digits since 2021; the plan keeps the earlier form
-// "+57 (zone digit) number", and the shipped local rule "60F" dials that as today's number.
+// Since 2021 a Colombian fixed number is 60 + zone digit + 7 digits; the local rule "60F" dials it.
 TEST(ColombianFixedNumber, WrittenInternationallyIsDialledAsTodaysNumberInItsZone) {
     const CountryExamples* colombia = examplesOf("CO");
     ASSERT_TRUE(colombia != nullptr && colombia->fixed.size() == 10u &&

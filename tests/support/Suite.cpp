@@ -46,6 +46,27 @@ Tracing::~Tracing() {
     Logger::m_Traces = previous;
 }
 
+std::vector<std::string> everyConversion(KesDialRulesItem* site, const std::string& number) {
+    KesNumberingRules* rules = KesNumberingRules::getInstance();
+    Poco::AutoPtr<KesClid> clid(rules->makeClid(site, number));
+    return {rules->makeCanonicalNumber(site, number, ""),
+            rules->makeCanonicalNumber(site, number, "+C (A) x\n", true),
+            rules->makeGSMCanonicalNumber(site, number, false),
+            rules->makeGSMCanonicalNumber(site, number, true),
+            rules->makePhoneNumber(site, number),
+            rules->addExternalPrefix(site, number),
+            clid.isNull() ? "" : clid->getNumber() + "/" + clid->getOrigin()->name};
+}
+
+std::string widened(const std::string& text, std::size_t width, bool bigEndian) {
+    std::string wide;
+    for (char c : text) {
+        const std::string zeros(width - 1, '\0');
+        wide += bigEndian ? zeros + c : c + zeros;
+    }
+    return wide;
+}
+
 } // namespace testhost
 
 namespace testconfig {
@@ -107,10 +128,12 @@ const std::string& identityMasks() {
     return masks;
 }
 
-void useWorld(const std::string& dialingRules) {
+void useWorld(const std::string& dialingRules, const Files& files) {
     clearAll();
     write("dialingrules.properties", dialingRules);
     write("dlr_cnp_mask.properties", identityMasks());
+    for (const auto& [name, content] : files)
+        write(name, content);
     reload();
 }
 

@@ -1,10 +1,8 @@
 #ifndef NUMBERING_TESTS_SUITE_H
 #define NUMBERING_TESTS_SUITE_H
 
-// What every suite shares: the library's headers, the host's log sink as the tests read it (each
-// test program defines FlogWrite and Logger::m_Traces itself, as a host does, and the library must
-// use these rather than its fallbacks) and the configuration directory the program owns
-// (NUMBERING_CONFIG_DIR, set by CTest), where these helpers write the property files.
+// What every suite shares: the host's log sink (defined here as a host does, so the library must use
+// it rather than its fallbacks) and the configuration directory of NUMBERING_CONFIG_DIR.
 
 #include "numbering/KesAreaCodePlan.h"
 #include "numbering/KesAreaCodeTree.h"
@@ -35,16 +33,14 @@ using namespace numbering;
 
 namespace testhost {
 
-/// Every line FlogWrite received since the last clear().
 std::vector<std::string>& lines();
 void clear();
-/// How many received lines contain `text`; whether one does.
 int countLogged(const std::string& text);
 inline bool logged(const std::string& text) {
     return countLogged(text) > 0;
 }
 
-/// Switches debug tracing on (or off) for one scope and clears the recorded lines.
+/// Debug tracing on (or off) for one scope, from no recorded line.
 class Tracing {
 public:
     explicit Tracing(bool on = true);
@@ -64,6 +60,16 @@ template <class Exception, class Call> std::string thrownText(Call call) {
     return "nothing thrown";
 }
 
+/// The result of every conversion of `number` at `site` ("" for no caller identity).
+std::vector<std::string> everyConversion(KesDialRulesItem* site, const std::string& number);
+
+/// `text` with every character widened to `width` bytes, as UTF-16 or UTF-32 write Latin text.
+std::string widened(const std::string& text, std::size_t width, bool bigEndian);
+/// `text` as an editor saves it in UTF-16: a configuration check error.
+inline std::string utf16(const std::string& text) {
+    return "\xFF\xFE" + widened(text, 2, false);
+}
+
 /// What `run` prints on standard output.
 template <class Run> std::string printed(Run run) {
     testing::internal::CaptureStdout();
@@ -75,33 +81,32 @@ template <class Run> std::string printed(Run run) {
 
 namespace testconfig {
 
-/// The directory this test program's library reads from, ending in "/".
 std::string directory();
-/// Writes `content` to `fileName` in that directory.
 void write(const std::string& fileName, const std::string& content);
 void remove(const std::string& fileName);
-/// Removes every file from the directory.
 void clearAll();
-/// Drops every singleton so that the next use re-reads the files.
 inline void reload() {
     KesNumberingRules::resetInstance();
 }
 
-/// A small world of countries, enough for the conversions under test (France, Germany, the
-/// United Kingdom, the United States with Canada sharing +1, Russia, Italy ...).
+/// Enough countries for the conversions under test, with Canada sharing +1.
 extern const char* const STANDARD_DIALING_RULES;
-/// Masks that lay every canonical number out as it stands ("+C (A) x"), for every calling code of
-/// one to three digits: a country without a mask would keep only its subscriber number.
+/// "+C (A) x" for every calling code: a country without a mask keeps only its subscriber number.
 const std::string& identityMasks();
-/// Clears the directory, writes `dialingRules` and the identity masks as installation files, and
-/// reloads.
-void useWorld(const std::string& dialingRules = STANDARD_DIALING_RULES);
+using Files = std::vector<std::pair<std::string, std::string>>;
+/// Only `dialingRules`, the identity masks and `files` (name, content), reloaded.
+void useWorld(const std::string& dialingRules = STANDARD_DIALING_RULES, const Files& files = {});
 
-/// A fixture that starts from useWorld() and reloads after each test.
+/// A test in useWorld(dialingRules, files), reloaded after it.
 class WorldTest : public ::testing::Test {
 protected:
-    void SetUp() override { useWorld(); }
+    explicit WorldTest(std::string rules = STANDARD_DIALING_RULES, Files more = {})
+        : dialingRules(std::move(rules)), files(std::move(more)) {}
+    void SetUp() override { useWorld(dialingRules, files); }
     void TearDown() override { reload(); }
+
+    std::string dialingRules;
+    Files files;
 };
 
 } // namespace testconfig

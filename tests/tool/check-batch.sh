@@ -1,14 +1,12 @@
 #!/bin/bash
-# Batch mode on several threads writes what one thread writes, byte for byte: results, messages in
-# their place among them, exit status; with blocks small enough that lines straddle their limits.
+# Batch mode on several threads writes what one thread writes, byte for byte, messages and status too.
 #   check-batch.sh <numbering executable> <shipped configuration directory>
 set -u
 tool=$1
 . "$(dirname "$0")/common.sh"
 export NUMBERING_CONFIG_DIR=$2
 
-# Converted, refused, blank and CRLF lines, a control character, a line longer than a block, and a
-# last line without its line break.
+# Refused, blank and CRLF lines, a control character, a line longer than a block, no last line break.
 long=$(printf '0%.0s' {1..300})
 for i in $(seq 400); do
     printf '01 23 45 67 89\n+49 (89) 123456\r\n0123x\n\n  \n+99 1\n+%s\n0612\x01345678\n' "$i"

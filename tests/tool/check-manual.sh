@@ -1,6 +1,5 @@
 #!/bin/bash
-# The manual page renders without a single warning of groff, and carries the sections a reader
-# looks for.
+# The manual page renders without a warning of groff, with the sections a reader looks for.
 #   check-manual.sh <numbering.1>
 set -u
 page=$1

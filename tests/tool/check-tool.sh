@@ -1,6 +1,6 @@
 #!/bin/bash
 # The command-line tool on the shipped configuration, from the outside: results, batch mode, exit
-# codes and messages.
+# codes and messages of every command.
 #   check-tool.sh <numbering executable> <shipped configuration directory>
 set -u
 tool=$1
@@ -10,15 +10,14 @@ export NUMBERING_CONFIG_DIR=$data
 
 run -c FR canonical "01 23 45 67 89"
 expect "French installation, canonical" 0 "+33 (0) 1 23 45 67 89"
-run -c FR dial "+49 (89) 123456"
-expect "French installation, dialling Munich" 0 "0004989123456"
 run -c FR gsm "01 23 45 67 89"
 expect "French installation, GSM form" 0 "+33123456789"
 run -c DE -x 0 -a 89 canonical 030123456 015123456789
 expect "German installation, two numbers as arguments" 0 "+49 (30) 123456"$'\n'"+49 (1512) 3456789"
 
-# One output line for every input line, the last one without its line break included.
-run --stdin $'01 23 45 67 89\n\n  \n+49 (89) 123456' -c FR dial
+# One output line for every input line, the last one without its line break included; a CRLF line
+# is echoed without its carriage return.
+run --stdin $'01 23 45 67 89\r\n\n  \n+49 (89) 123456' -c FR dial
 expect "batch from standard input, empty lines kept in place" 0 \
     "01 23 45 67 89${tab}00123456789"$'\n'"${tab}"$'\n'"  ${tab}"$'\n'"+49 (89) 123456${tab}0004989123456"
 
@@ -68,14 +67,206 @@ run --help
 unset NUMBERING_CONFIG_DIR
 run --config-dir "$data" canonical 0123456789
 expect "--config-dir instead of the environment" 0 "+33 (0) 1 23 45 67 89"
-# An empty variable is ignored by the library, so the tool reads the library's own directory, else
-# falls back on the shipped files and says so (the real directory, if this machine has one, is not
-# for tests).
+# An empty variable is ignored: the library's own directory (not for tests where it exists), else the
+# shipped files with a note.
 library=/current/tele_mnt/lib_numbering/
 if [ ! -e "$library" ]; then
     NUMBERING_CONFIG_DIR= run canonical 0123456789
     expect "empty NUMBERING_CONFIG_DIR" 0 "+33 (0) 1 23 45 67 89" \
         "numbering: note: $library does not exist: reading the shipped configuration in $data (numbering init puts it where the library reads it)"
 fi
+
+# `numbering explain`: --json names the decisions; exit statuses.
+run --config-dir "$data" -c DE -x 0 -a 89 --json explain "030 1234567"
+[ "$status" = 0 ] && [ "$(json kind plan areaCodeFound route outsideLine)" = "National|CountryPlan|Found|LongDistance|Needed;" ] ||
+    fail "--json explain: not one object with the decisions"
+check 1 "explain of a number that is not one" --config-dir "$data" explain "12a4"
+check 2 "explain of two numbers" --config-dir "$data" explain 123 456
+
+# configuration NAME [FILE LINE]: the shipped files, LINE in place of its key's row in FILE ("KEY=": none).
+configuration() {
+    local directory=$work/$1
+    mkdir -p "$directory"
+    cp "$data"/*.properties "$directory/"
+    [ $# = 3 ] || return
+    grep -v "^${3%%=*}=" "$directory/$2" >"$work/file"
+    [ "${3#*=}" = "" ] || printf '%s\n' "$3" >>"$work/file"
+    mv "$work/file" "$directory/$2"
+}
+# `numbering check`: the exit status and the output lines follow the worst finding.
+check 0 "shipped configuration" check --config-dir "$data"
+[ -z "$out" ] || fail "the shipped configuration gives findings"
+[[ "$err" =~ ^"0 errors, 0 warnings, 0 notes in "[0-9]+" files: the configuration is clean"$ ]] ||
+    fail "the shipped configuration: no line saying that it is clean"
+NUMBERING_CONFIG_DIR=$data check 0 "shipped configuration through NUMBERING_CONFIG_DIR" check
+
+# Notes only: the installation file is in use, its default is not read.
+configuration notes
+cp "$data/specific_format_activation_default.properties" "$work/notes/specific_format_activation.properties"
+check 0 "notes only" check --config-dir "$work/notes"
+expect_line "notes only" "$work/notes/specific_format_activation.properties: note: in use: specific_format_activation_default.properties is not read at all (the two files are never merged)"
+
+# Warnings: a switch that switches nothing off.
+printf 'cnp_1=on\ncnp_49=off\n' >"$work/notes/specific_format_activation.properties"
+check 1 "warnings" check --config-dir "$work/notes"
+expect_line "warnings" "$work/notes/specific_format_activation.properties:2: warning: cnp_49 = off switches nothing off: the library keeps only the first valid switch of the file (cnp_1) and files it under calling code 0, so the plan of every calling code stays on"
+
+# Errors: only the French mask. Three missing masks are listed, the others counted, all summed up.
+printf 'Mask_33_1=+C (A) x xx xx xx xx\n' >"$work/notes/dlr_cnp_mask.properties"
+check 2 "errors" check --config-dir "$work/notes"
+expect_line "errors" "$work/notes/dlr_cnp_mask.properties: error: no mask for +20 (EG): without one a canonical number keeps only its subscriber number, so \"+20 (89) 123456\" becomes \"123456\", which no longer names the country and is dialled as a local number"
+[ "$(grep -c 'error: no mask for' <<<"$out")" = 3 ] || fail "errors: not three missing masks listed"
+more=$(sed -n 's/^.*dlr_cnp_mask.properties: error: and \([0-9]*\) more like it, not listed one by one$/\1/p' <<<"$out")
+[ -n "$more" ] || fail "errors: no line counting the other missing masks"
+[ "$err" = "$((${more:-0} + 3)) errors, 2 warnings, 2 notes in 13 files" ] || fail "errors: summary"
+run --json check --config-dir "$work/notes"
+[ "$(json alike | tr ';' '\n' | grep -v '^-$')" = "$more" ] && [[ "$err" == "$((${more:-0} + 3)) errors,"* ]] ||
+    fail "--json errors: the counted line's alike, the summary as text on standard error"
+
+check 2 "an empty directory" check --config-dir "$work/empty-directory"
+check 2 "a number after check" check 0123456789
+[[ "$err" == *"check takes no number"* ]] || fail "a number after check"
+
+# `numbering diff`: the sample from the arguments, standard input or the shipped file.
+configuration same
+configuration masks dlr_cnp_mask_default.properties "Mask_33_1=+C (A) xx xx xx xx x"
+configuration prefix dialingrules_default.properties "FR=33:000:EF:0F:0F:France:P"
+configuration no-france dialingrules_default.properties "FR="
+sample_size=$(grep -c . "$data/sample_numbers.txt")
+
+# Neither the library's directory nor a note about it: diff reads the two directories it names.
+NUMBERING_CONFIG_DIR=$work/nowhere run diff "$data" "$work/same/"
+expect "identical configurations, the shipped sample" 0 "" "no result differs: $sample_size numbers, 4 commands"
+run diff "$data" "$work/masks" "+49 89 123456" 0123456789
+expect "a French mask changed, numbers as arguments" 1 \
+    "0123456789${tab}canonical${tab}+33 (0) 1 23 45 67 89${tab}+33 (0) 12 34 56 78 9" \
+    "1 of 2 numbers converts differently: canonical 1, dial 0, clid 0, gsm 0"
+# A caller identity keeps its origin in the same field; blank lines are no numbers.
+run --stdin $'+49 89 123456\n\n0049 89 123456\n' diff "$data" "$work/prefix"
+expect "the international prefix changed, numbers on standard input" 1 \
+    "+49 89 123456${tab}dial${tab}0004989123456${tab}00004989123456
+0049 89 123456${tab}canonical${tab}+49 (89) 123456${tab}004989123456
+0049 89 123456${tab}clid${tab}4989123456 International${tab}004989123456 Private
+0049 89 123456${tab}gsm${tab}+4989123456${tab}004989123456" \
+    "2 of 2 numbers convert differently: canonical 1, dial 1, clid 1, gsm 1"
+
+# Errors: nothing compared, status 2.
+run diff "$data" "$work/nowhere" 0123456789
+expect "a directory without dialing rules" 2 "" "numbering: no dialing rules in $work/nowhere/"
+run diff "$data" "$work/no-france/" 0123456789
+expect "the installation's country unknown to the new configuration" 2 "" \
+    "numbering: --country: error: Country code 'FR' is not supported by the dialing rules of $work/no-france/"
+run diff "$data"
+[ "$status" = 2 ] && [[ "$err" == *"diff wants two configuration directories"* ]] ||
+    expect "one directory only" 2 "" "diff wants two configuration directories"
+
+# The installation of a site file, checked under each configuration, its warnings said once.
+site=$work/site.properties
+printf 'country = FR\next_prefix = 9\nexternal_prefix = 0\n' >"$site"
+warning="numbering: $site:3: warning: unknown key 'external_prefix', ignored: the keys are country, ext_prefix, area_codes, local_length, except_length and except_begin"
+run --site "$site" diff "$data" "$work/same" 0123456789
+expect "a site file, identical configurations" 0 "" "$warning
+no result differs: 1 number, 4 commands"
+run --site "$site" diff "$data" "$work/no-france" 0123456789
+expect "a site file whose country the new configuration does not know" 2 "" "$warning
+numbering: $site:1: error: Country code 'FR' is not supported by the dialing rules of $work/no-france/"
+run --site "$work/missing.properties" diff "$data" "$work/same" 0123456789
+expect "a missing site file" 2 "" \
+    "numbering: cannot open the site file $work/missing.properties: File not found: $work/missing.properties"
+
+# --json: an object per difference, the site's outside-line prefix dialled; the summary stays text.
+run --site "$site" --json diff "$data" "$work/prefix" "+49 89 123456" "0049 89 123456"
+[ "$status" = 1 ] && [ "$(json input command old new)" = "+49 89 123456|dial|9004989123456|90004989123456;\
+0049 89 123456|canonical|+49 (89) 123456|004989123456;0049 89 123456|clid|4989123456 International|004989123456 Private;\
+0049 89 123456|gsm|+4989123456|004989123456;" ] &&
+    [ "$err" = "$warning
+2 of 2 numbers convert differently: canonical 1, dial 1, clid 1, gsm 1" ] || fail "--json diff with a site file"
+
+# What an installer meets: init, a site file and its check, JSON lines.
+export NUMBERING_CONFIG_DIR=$work/library
+
+# init: the library's directory is made and filled; a second run and a changed file keep what is there.
+run init
+[ "$status" = 0 ] && grep -qxF "wrote $work/library/dialingrules_default.properties" <<<"$out" ||
+    fail "init into the library's directory"
+echo 'FR = 33:00:EF:0F::France:P' >"$work/library/dialingrules_default.properties"
+run init "$work/library"
+[ "$status" = 0 ] && ! grep -q '^wrote' <<<"$out" &&
+    grep -qxF "kept $work/library/dialingrules_default.properties (already there)" <<<"$out" &&
+    [ "$(cat "$work/library/dialingrules_default.properties")" = 'FR = 33:00:EF:0F::France:P' ] ||
+    fail "init again (wanted every file kept as it is)"
+rm "$work/library/dialingrules_default.properties"
+run init
+grep -qxF "wrote $work/library/dialingrules_default.properties" <<<"$out" || fail "init after a removal"
+touch "$work/not-a-directory"
+run init "$work/not-a-directory/sub"
+[ "$status" = 2 ] && [[ "$err" == *"cannot create $work/not-a-directory/sub"* ]] || fail "init where no directory can be made"
+
+# The conversions read the library's directory now that it exists, without a note.
+run -c FR canonical 0123456789
+expect "conversion on the initialised directory" 0 "+33 (0) 1 23 45 67 89"
+
+# A site file: what it says is the installation; options replace single settings.
+printf 'country = DE\next_prefix = 0\narea_codes = 89\n' >"$work/munich.properties"
+run --site "$work/munich.properties" canonical 123456
+expect "conversion at the installation of a site file" 0 "+49 (89) 123456"
+run --site "$work/munich.properties" -a 30 canonical 123456
+[ "$out" = "+49 (30) 123456" ] || fail "an option replaces the site file's setting"
+run check --site "$work/munich.properties"
+[ "$status" = 0 ] && [ -z "$out" ] || fail "check of a clean site file"
+
+# Each broken setting: the exit status of check, the line and the finding (file:line: severity:).
+while IFS='|' read -r content wanted_status line; do
+    printf '%b' "$content" >"$work/site.properties"
+    run check --site "$work/site.properties"
+    if [ "$status" != "$wanted_status" ] || ! grep -qF -- "$work/site.properties:$line" <<<"$out"; then
+        fail "check --site of '$content' (wanted status $wanted_status and '$line')"
+    fi
+    run --site "$work/site.properties" dial 0123456789
+    if { [ "$wanted_status" = 2 ] && [ "$status" != 2 ]; } || { [ "$wanted_status" = 1 ] && [ "$status" = 2 ]; }; then
+        fail "conversion at the site '$content' (refused exactly when check finds errors)"
+    fi
+done <<'EOF_SITES'
+country = DE\next_prefix = 0A|2|2: error: the outside-line prefix '0A'
+country = FR\nexcept_begin = 1x|2|2: error: the leading digits of exception numbers '1x'
+country = DE\narea_codes = 89, 999|2|2: error: the area code '999' is not one the plan of DE knows
+country = DE\narea_codes = 8A|2|2: error: the area code '8A'
+country = XX|2|1: error: Country code 'XX' is not supported
+country = fr|2|1: error: country codes are written in capitals
+ext_prefix = 0|2| error: the installation's country is an ISO 3166 code of two letters
+country = FR\nlocal_length = -4|2|2: error: local_length = -4 is no whole number
+country = FR\nexternal_prefix = 0|1|2: warning: unknown key 'external_prefix'
+EOF_SITES
+# A country without area code file takes any area code.
+printf 'country = FR\narea_codes = 1, 9\n' >"$work/site.properties"
+check 0 "area codes of a country whose plan has no list" check --site "$work/site.properties"
+run check --site "$work/missing.properties"
+[ "$status" = 2 ] && [[ "$out" == *"cannot open the site file $work/missing.properties"* ]] || fail "check of a missing site file"
+check 2 "conversion with a missing site file" --site "$work/missing.properties" dial 0123
+
+# --json: every command's lines parse as JSON, with the members a script reads.
+batch=$'0123456789\r\nx"\\\n' # a CRLF line, and a quote and a backslash to escape
+while IFS='#' read -r args wanted; do
+    eval "run --stdin \"\$batch\" --json $args" # args may quote a number with blanks
+    got=$(json command input result origin error)
+    [ "$got" = "$wanted" ] || fail "--json $args: got '$got', wanted '$wanted'"
+done <<'EOF_JSON'
+-c FR dial#dial|0123456789|00123456789|-|-;dial|x"\||-|'x"\' is not a telephone number: 'x' is neither a digit nor one of "+ ()-.*#ABCD";
+-c FR clid 0123456789#clid|0123456789|123456789|National|-;
+-c FR decompose '+33 (1) 23456789'#decompose|+33 (1) 23456789|{'country': '33', 'area': '1', 'subscriber': '23456789'}|-|-;
+EOF_JSON
+# check: the summary stays text on standard error, the site file counted among the files.
+run check --config-dir "$work/library"
+files=$(sed -n 's/^0 errors, 0 warnings, 0 notes in \([0-9]*\) files: the configuration is clean$/\1/p' <<<"$err")
+run --json check --site "$work/site.properties" --config-dir "$work/library"
+[ "$status" = 0 ] && [ "$(json command)" = "" ] && [ -n "$files" ] &&
+    [ "$err" = "0 errors, 0 warnings, 0 notes in $((${files:-0} + 1)) files: the configuration is clean" ] ||
+    fail "--json check, clean"
+printf 'country = DE\next_prefix = 0A\n' >"$work/site.properties"
+run --json check --site "$work/site.properties"
+[ "$(json command file line key severity)" = "check|$work/site.properties|2|ext_prefix|error;" ] &&
+    [ "$err" = "1 error, 0 warnings, 0 notes in $((${files:-0} + 1)) files" ] || fail "--json check"
+run --json init
+[ "$(json command result | tr ';' '\n' | sort -u)" = "init|kept" ] || fail "--json init"
 
 finish

@@ -1,5 +1,4 @@
-# Sourced by the shell checks of the command-line tool, once $tool names it: a scratch directory
-# ($work), running the tool and judging what it did, and the closing verdict.
+# Sourced by the shell checks of the tool named $tool: a scratch directory $work, runs and verdicts.
 failures=0
 tab=$'\t'
 work=$(mktemp -d)
@@ -22,6 +21,17 @@ fail() {
     failures=$((failures + 1))
 }
 
+# check STATUS NAME ARGS...: runs the tool; fails NAME unless it exits with STATUS.
+check() {
+    local expected=$1 name=$2
+    shift 2
+    run "$@"
+    [ "$status" = "$expected" ] || fail "$name (exit status $status, wanted $expected)"
+}
+
+# expect_line NAME LINE: LINE is one of the lines on standard output.
+expect_line() { grep -qxF -- "$2" <<<"$out" || fail "$1: no line '$2'"; }
+
 # expect NAME STATUS STDOUT [STDERR]: exact exit status and output, standard error empty unless given.
 expect() {
     if [ "$status" != "$2" ] || [ "$out" != "$3" ] || [ "$err" != "${4:-}" ]; then
@@ -29,8 +39,7 @@ expect() {
     fi
 }
 
-# json KEY...: the JSON lines of $out read back, each as its members KEY... joined by '|' ('-' for
-# one missing), and ';' after each line.
+# json KEY...: each JSON line of $out as its members KEY... joined by '|' ('-' if missing), then ';'.
 json() {
     python3 -c '
 import json, sys
@@ -39,7 +48,6 @@ for line in filter(str.strip, sys.stdin):
     print("|".join(str(obj.get(k, "-")) for k in sys.argv[1:]), end=";")' "$@" <<<"$out" 2>&1
 }
 
-# finish: the verdict and the exit status of the check.
 finish() {
     if [ "$failures" -ne 0 ]; then
         echo "$failures check(s) failed"
