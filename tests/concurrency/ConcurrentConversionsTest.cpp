@@ -1,18 +1,24 @@
-// Conversions from many threads, cold and under reloads, on the shipped world; the sanitizer builds
-// of the test command see every race and leak besides.
+// Conversions from many threads, cold and under reloads, the watcher of the configuration directory
+// and the reload that refuses errors, on the shipped world and copies of it; the sanitizer builds of
+// the test command see every race and leak besides.
 #include "ExampleNumbers.h"
-#include "ReloadedWorld.h"
 #include "Suite.h"
 
 #include "numbering/KesCharsTreeElement.h"
 #include "numbering/KesConfigurationCheck.h"
+#include "numbering/KesConfigurationRejected.h"
+#include "numbering/KesConfigurationWatcher.h"
 
 #include <algorithm>
 #include <atomic>
 #include <chrono>
+#include <filesystem>
+#include <fstream>
+#include <iterator>
 #include <mutex>
 #include <random>
 #include <thread>
+#include <unistd.h>
 
 namespace {
 
@@ -93,7 +99,95 @@ TEST_F(ConcurrentConversions, ColdStartGivesEveryThreadTheSingleThreadedResults)
 
 namespace {
 
-using namespace reloaded;
+namespace fs = std::filesystem;
+using Files = std::vector<std::pair<std::string, std::string>>;
+
+/// A copy of the shipped configuration in a temporary directory of its own, with some files replaced.
+class ConfigurationCopy {
+public:
+    ConfigurationCopy(const std::string& name, const Files& files)
+        : path(fs::temp_directory_path() /
+               ("numbering-concurrency-" + std::to_string(getpid()) + "-" + name)) {
+        fs::create_directories(path);
+        for (const fs::directory_entry& entry : fs::directory_iterator(NUMBERING_SHIPPED_DATA))
+            fs::copy_file(entry.path(), path / entry.path().filename(), fs::copy_options::overwrite_existing);
+        write(files);
+    }
+    ~ConfigurationCopy() { fs::remove_all(path); }
+    ConfigurationCopy(const ConfigurationCopy&) = delete;
+    ConfigurationCopy& operator=(const ConfigurationCopy&) = delete;
+
+    std::string directory() const { return path.string() + "/"; }
+    void write(const Files& files) const {
+        for (const auto& file : files)
+            std::ofstream(path / file.first, std::ios::binary) << file.second;
+    }
+
+private:
+    fs::path path;
+};
+
+std::string shipped(const std::string& fileName) {
+    std::ifstream file(std::string(NUMBERING_SHIPPED_DATA) + fileName);
+    return std::string((std::istreambuf_iterator<char>(file)), std::istreambuf_iterator<char>());
+}
+
+/// The shipped dialing rules with another French international prefix.
+std::string dialingRulesWithFrenchPrefix(const std::string& prefix) {
+    std::string text = shipped("dialingrules_default.properties");
+    const std::string france = "FR=33:00:";
+    const std::string::size_type at = text.find(france);
+    return at == std::string::npos ? text : text.replace(at, france.size(), "FR=33:" + prefix + ":");
+}
+
+/// The shipped masks with those of `lines` ("Mask_33_1=...\n") in place of the shipped ones: every
+/// country keeps a mask, so that the configuration check finds no error.
+std::string shippedMasksWith(const std::string& lines) {
+    std::string text = shipped("dlr_cnp_mask_default.properties");
+    for (std::string::size_type begin = 0; begin < lines.size();) {
+        const std::string::size_type end = lines.find('\n', begin) + 1;
+        const std::string line = lines.substr(begin, end - begin);
+        const std::string key = "\n" + line.substr(0, line.find('=') + 1);
+        const std::string::size_type at = text.find(key);
+        text.replace(at + 1, text.find('\n', at + 1) - at, line);
+        begin = end;
+    }
+    return text;
+}
+
+/// Numbers whose every form differs between the variants: area codes, masks, international prefix.
+const std::pair<const char*, const char*> RELOADED[] = {
+    {"DE", "089123456"},       {"DE", "+49 891 23456"},     {"FR", "01 23 45 67 89"},
+    {"FR", "+49 (89) 123456"}, {"GB", "+33 1 23 45 67 89"}, {"US", "+49 891 234567"},
+};
+
+/// Two variants of the shipped configuration that convert RELOADED otherwise.
+const Files VARIANT_A = {
+    {"dlr_cnp_mask.properties", shippedMasksWith("Mask_33_1=+C (a) x xx xx xx xx\nMask_49_1=+C (A) x\n"
+                                                 "Mask_44_1=+C (A) x\nMask_1_1=+C (A) x\n")},
+    {"tz310cnp_49.properties", "Translate=1\nAC_0000=30\nAC_0001=89\n"},
+    {"dialingrules.properties", dialingRulesWithFrenchPrefix("00")}};
+const Files VARIANT_B = {
+    {"dlr_cnp_mask.properties", shippedMasksWith("Mask_33_1=+C (a) xxxxxxxxx\nMask_49_1=+C (A) xx xx x\n"
+                                                 "Mask_44_1=+C (A) xx x\nMask_1_1=+C (A) xxx x\n")},
+    {"tz310cnp_49.properties", "Translate=1\nAC_0000=30\nAC_0001=891\n"},
+    {"dialingrules.properties", dialingRulesWithFrenchPrefix("000")}};
+
+/// The canonical, GSM and dialled forms of one number.
+std::vector<std::string> convertOnce(const std::pair<const char*, const char*>& typed) {
+    KesNumberingRules* rules = KesNumberingRules::getInstance();
+    KesDialRulesItem site(typed.first, "0", 4, "", 0, "");
+    return {rules->makeCanonicalNumber(&site, typed.second, ""),
+            rules->makeGSMCanonicalNumber(&site, typed.second, false),
+            rules->makePhoneNumber(&site, typed.second)};
+}
+
+std::vector<std::vector<std::string>> convertAll() {
+    std::vector<std::vector<std::string>> results;
+    for (const auto& typed : RELOADED)
+        results.push_back(convertOnce(typed));
+    return results;
+}
 
 /// Threads converting RELOADED until stopped, each result checked against the answers it may meet.
 class Converters {
@@ -114,7 +208,7 @@ public:
 
 private:
     void run(int t) {
-        const std::size_t count = RELOADED.size();
+        const std::size_t count = std::size(RELOADED);
         for (std::size_t i = static_cast<std::size_t>(t) % count; converting.load(); i = (i + 1) % count) {
             // A pause now and then leaves the reloading thread some of the two cores.
             if (i == 0)
@@ -149,7 +243,7 @@ TEST_F(ConcurrentConversions, EachReloadIsTheFilesOfItsMoment) {
     KesNumberingRules::reload(world.directory());
     const auto inB = convertAll();
     for (std::size_t i = 0; i < inA.size(); ++i)
-        EXPECT_NE(inA[i], inB[i]) << RELOADED[i].number;
+        EXPECT_NE(inA[i], inB[i]) << RELOADED[i].second;
 
     Converters converters({inA, inB});
     for (int n = 0; n < 1000; ++n) {
@@ -210,4 +304,152 @@ TEST_F(ConcurrentConversions, ConcurrentReloadsAndChecksOfTheSameFiles) {
     EXPECT_TRUE(unexpected.empty()) << unexpected.size()
                                     << " other results, the first: " << unexpected.front();
     EXPECT_EQ(findings, 0u) << "the shipped configuration checks clean";
+}
+
+namespace {
+
+const std::chrono::milliseconds SETTLE(50);
+const std::chrono::seconds PATIENCE(60); // a loaded machine under a sanitizer; never waited out otherwise
+
+template <class Condition> bool eventually(Condition condition) {
+    const auto giveUp = std::chrono::steady_clock::now() + PATIENCE;
+    while (!condition()) {
+        if (std::chrono::steady_clock::now() > giveUp)
+            return false;
+        std::this_thread::sleep_for(std::chrono::milliseconds(10));
+    }
+    return true;
+}
+
+int threadCount() {
+    std::ifstream status("/proc/self/status");
+    for (std::string line; std::getline(status, line);)
+        if (line.rfind("Threads:", 0) == 0)
+            return std::stoi(line.substr(8));
+    return -1;
+}
+
+const std::string LOGGED_AS = "INFO N9numbering23KesConfigurationWatcherE - ";
+
+/// A world in VARIANT_A, reloaded, with the results of both variants.
+class WatchedWorld : public ::testing::Test {
+protected:
+    void SetUp() override {
+        {
+            ConfigurationCopy expected("expected", VARIANT_B);
+            KesNumberingRules::reload(expected.directory());
+            inB = convertAll();
+        }
+        KesNumberingRules::reload(world.directory(), ReloadPolicy::RefuseErrors);
+        inA = convertAll();
+        ASSERT_NE(inA, inB);
+        threadsBefore = threadCount();
+        testhost::clear();
+    }
+    void TearDown() override {
+        EXPECT_TRUE(eventually([&] { return threadCount() == threadsBefore; }))
+            << "the watcher's threads ended";
+        KesNumberingRules::reload(std::string());
+    }
+
+    ConfigurationCopy world{"watched", VARIANT_A};
+    std::vector<std::vector<std::string>> inA, inB;
+    int threadsBefore = 0;
+};
+
+} // namespace
+
+TEST_F(WatchedWorld, ABrokenEditIsRefusedAndLoggedThenTheCorrectionTaken) {
+    KesConfigurationWatcher watcher(world.directory(), SETTLE);
+    EXPECT_EQ(threadCount(), threadsBefore) << "no thread until the host starts it";
+    watcher.start();
+    EXPECT_TRUE(watcher.running());
+    EXPECT_GT(threadCount(), threadsBefore);
+    world.write({{"dlr_cnp_mask.properties", testhost::utf16(VARIANT_B[0].second)}});
+    const std::string refused = LOGGED_AS + "Refused the configuration of " + world.directory() +
+                                ", the running configuration stays: " + world.directory() +
+                                "dlr_cnp_mask.properties: error: ";
+    ASSERT_TRUE(eventually([&] { return testhost::logged(refused); }));
+    EXPECT_TRUE(testhost::logged(" other finding"));
+    EXPECT_EQ(convertAll(), inA);
+
+    world.write(VARIANT_B);
+    EXPECT_TRUE(eventually([&] { return convertAll() == inB; }));
+    EXPECT_TRUE(eventually([&] {
+        return testhost::logged(LOGGED_AS + "Reloaded the configuration of " + world.directory() +
+                                " after a change");
+    }));
+} // the destructor stops it
+
+TEST_F(WatchedWorld, StoppingDropsAPendingChange) {
+    KesConfigurationWatcher watcher(world.directory(), std::chrono::hours(1));
+    watcher.start();
+    world.write(VARIANT_B); // waits an hour for quiet files
+    const auto asked = std::chrono::steady_clock::now();
+    watcher.stop();
+    EXPECT_LT(std::chrono::steady_clock::now() - asked, PATIENCE) << "stopping waits for no settle time";
+    EXPECT_FALSE(watcher.running());
+    EXPECT_EQ(convertAll(), inA);
+    EXPECT_FALSE(testhost::logged(LOGGED_AS));
+}
+
+namespace {
+
+struct Edit {
+    const char* what;
+    Files files; // written over VARIANT_B
+    ReloadPolicy policy;
+    const char* refusedFor; // the file of the first error, or null when the reload takes the edit
+};
+
+// Made when the test runs: the variants are another file's statics.
+std::vector<Edit> edits() {
+    return {
+        {"dialing rules without a usable row",
+         {{"dialingrules.properties", "\n"}},
+         ReloadPolicy::RefuseErrors,
+         "dialingrules.properties"},
+        {"masks saved as UTF-16, plain reload",
+         {{"dlr_cnp_mask.properties", testhost::utf16(VARIANT_B[0].second)}},
+         ReloadPolicy::Plain,
+         nullptr},
+        {"warnings only (masks that lack the default's countries)", {}, ReloadPolicy::RefuseErrors, nullptr},
+    };
+}
+
+} // namespace
+
+TEST(ReloadPolicy, ErrorsAreRefusedAndTheRunningConfigurationStays) {
+    ConfigurationCopy good("good", VARIANT_A);
+    ASSERT_EQ(KesConfigurationCheck::check(good.directory()).status(), 1) << "warnings, which never refuse";
+    for (const Edit& edit : edits()) {
+        SCOPED_TRACE(edit.what);
+        KesNumberingRules::reload(good.directory(), ReloadPolicy::RefuseErrors);
+        const auto before = convertAll();
+        ConfigurationCopy edited("edited", VARIANT_B);
+        edited.write(edit.files);
+        if (edit.refusedFor == nullptr) {
+            KesNumberingRules::reload(edited.directory(), edit.policy);
+            EXPECT_NE(convertAll(), before);
+            EXPECT_EQ(KesNumberingConfig::configDirectory(), edited.directory());
+            continue;
+        }
+        try {
+            KesNumberingRules::reload(edited.directory(), edit.policy);
+            ADD_FAILURE() << "taken";
+        } catch (const KesConfigurationRejected& refused) {
+            EXPECT_EQ(refused.directory(), edited.directory());
+            EXPECT_EQ(refused.firstError().file, edited.directory() + edit.refusedFor);
+            EXPECT_EQ(refused.report().status(), 2);
+            EXPECT_EQ(std::string(refused.what())
+                          .rfind("Refused the configuration of " + edited.directory() +
+                                     ", the running configuration stays: " + refused.firstError().text(),
+                                 0),
+                      0u)
+                << refused.what();
+        }
+        EXPECT_EQ(convertAll(), before);
+        EXPECT_EQ(KesNumberingConfig::configDirectory(), good.directory());
+    }
+    KesNumberingRules::reload(std::string());
 }

@@ -1,12 +1,13 @@
 // Configuration files far larger than any real one, and installation files that cannot be read: the
 // library loads what it can and keeps converting without taking the host down. (The property-file
 // fuzzer feeds it broken ones.)
-#include "../cnp/PlanWorld.h"
+#include "Suite.h"
 
 #include "numbering/KesConfigurationCheck.h"
 
 #include <fstream>
 #include <functional>
+#include <map>
 #include <sys/stat.h>
 #include <unistd.h>
 
@@ -111,8 +112,12 @@ std::vector<FileWithDefault> filesWithDefaults() {
         if (plan.readsAreaCodes()) {
             const std::string code = plan.callingCode;
             files.push_back({"tz310cnp_" + code, "Translate=1\nAC_0000=7\n",
-                             [code] { return planworld::filePlan(code)->areaCodeCount == 1; },
-                             planworld::loggerOf("KesCNP_" + code), planTexts.at(code)});
+                             [code] {
+                                 Poco::AutoPtr<KesCNP> made(KesCNPFactory::CreateInstance(code));
+                                 return dynamic_cast<KesAreaCodePlan&>(*made).areaCodeCount == 1;
+                             },
+                             "N9numbering" + std::to_string(7 + code.size()) + "KesCNP_" + code + "E",
+                             planTexts.at(code)});
         }
     return files;
 }

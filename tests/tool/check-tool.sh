@@ -1,12 +1,109 @@
 #!/bin/bash
 # The command-line tool on the shipped configuration, from the outside: results, batch mode, exit
-# codes and messages of every command.
-#   check-tool.sh <numbering executable> <shipped configuration directory>
+# codes and messages of every command; with --batch, only batch mode on several threads, which writes
+# what one thread writes, byte for byte, messages and status too.
+#   check-tool.sh <numbering executable> <shipped configuration directory> [--batch]
 set -u
 tool=$1
 data=$2
-. "$(dirname "$0")/common.sh"
+failures=0
+tab=$'\t'
+work=$(mktemp -d)
+trap 'rm -rf "$work"' EXIT
+
+# run [--stdin TEXT] ARGS...: runs the tool; sets out, err and status.
+run() {
+    local input=""
+    if [ "${1:-}" = "--stdin" ]; then
+        input=$2
+        shift 2
+    fi
+    out=$(printf '%s' "$input" | "$tool" "$@" 2>"$work/err")
+    status=$?
+    err=$(cat "$work/err")
+}
+
+fail() {
+    printf 'FAIL: %s\n  exit status: %s\n  stdout: %s\n  stderr: %s\n' "$1" "$status" "$out" "$err"
+    failures=$((failures + 1))
+}
+
+# check STATUS NAME ARGS...: runs the tool; fails NAME unless it exits with STATUS.
+check() {
+    local expected=$1 name=$2
+    shift 2
+    run "$@"
+    [ "$status" = "$expected" ] || fail "$name (exit status $status, wanted $expected)"
+}
+
+# expect_line NAME LINE: LINE is one of the lines on standard output.
+expect_line() { grep -qxF -- "$2" <<<"$out" || fail "$1: no line '$2'"; }
+
+# expect NAME STATUS STDOUT [STDERR]: exact exit status and output, standard error empty unless given.
+expect() {
+    if [ "$status" != "$2" ] || [ "$out" != "$3" ] || [ "$err" != "${4:-}" ]; then
+        fail "$1 (wanted status $2, stdout '$3' and stderr '${4:-}')"
+    fi
+}
+
+# json KEY...: each JSON line of $out as its members KEY... joined by '|' ('-' if missing), then ';'.
+json() {
+    python3 -c '
+import json, sys
+for line in filter(str.strip, sys.stdin):
+    obj = json.loads(line)
+    print("|".join(str(obj.get(k, "-")) for k in sys.argv[1:]), end=";")' "$@" <<<"$out" 2>&1
+}
+
+finish() {
+    if [ "$failures" -ne 0 ]; then
+        echo "$failures check(s) failed"
+        exit 1
+    fi
+    echo "all checks passed"
+}
+
 export NUMBERING_CONFIG_DIR=$data
+
+if [ "${3:-}" = --batch ]; then
+    # Refused, blank and CRLF lines, a control character, a line longer than a block, no last line break.
+    long=$(printf '0%.0s' {1..300})
+    for i in $(seq 400); do
+        printf '01 23 45 67 89\n+49 (89) 123456\r\n0123x\n\n  \n+99 1\n+%s\n0612\x01345678\n' "$i"
+    done >"$work/input"
+    printf '%s\n0033123456789' "$long" >>"$work/input"
+
+    for command in canonical clid decompose; do
+        for format in "" --json; do
+            # The input fits in one block of the usual size: the reference, cut into blocks of 100 bytes.
+            "$tool" $format --jobs 1 $command <"$work/input" >"$work/whole" 2>&1
+            echo "status $?" >>"$work/whole"
+            status=$(tail -1 "$work/whole") out="" err=""
+            [ "$status" = "status 1" ] && [ "$(wc -l <"$work/whole")" -gt 3200 ] ||
+                fail "$command $format: too little output"
+            for jobs in 1 2 3; do
+                # Standard output and error into one file: the messages' places are compared too.
+                NUMBERING_BATCH_BLOCK_BYTES=100 "$tool" $format --jobs $jobs $command <"$work/input" \
+                    >"$work/out" 2>&1
+                echo "status $?" >>"$work/out"
+                cmp -s "$work/whole" "$work/out" || fail "$command $format --jobs $jobs: differs from one block"
+            done
+        done
+    done
+
+    # Whole blocks of the usual size through a pipe, which hands them over in pieces of its own.
+    yes 0612345678 | head -200000 >"$work/large"
+    cat "$work/large" | "$tool" --jobs 2 canonical >"$work/out2"
+    "$tool" --jobs 1 canonical <"$work/large" >"$work/out1"
+    cmp -s "$work/out1" "$work/out2" || fail "large input through a pipe: --jobs 2 differs from --jobs 1"
+
+    # A full disk: status 2 and the reason, for a short batch too.
+    printf '0123456789\n' | "$tool" canonical >/dev/full 2>"$work/err"
+    status=$? out="" err=$(cat "$work/err")
+    [ "$status" = 2 ] && [[ "$err" == *"cannot write the results"* ]] || fail "output to a full disk"
+    finish
+    exit
+fi
 
 run -c FR canonical "01 23 45 67 89"
 expect "French installation, canonical" 0 "+33 (0) 1 23 45 67 89"
