@@ -22,12 +22,11 @@ KesClid* KesNumberingRules::makeClid(KesDialRulesItem* myKesDialRulesItem, std::
     const Conversion conversion; // the canonical form and the country rules from one configuration
     if (Logger::m_Traces)
         logger->debug("makeClid with : " + strPhoneNumber);
-    // Only the digits are read: the library's own conversion leaves out a mask that does not
-    // change them.
-    std::string can =
-        ownConversions(*this)
-            ? makeCanonical(myKesDialRulesItem, strPhoneNumber, std::string(), false, Layout::Digits)
-            : makeCanonicalNumber(myKesDialRulesItem, std::move(strPhoneNumber), "");
+    // Only the digits are read; a host's subclass is asked through the three-argument conversion,
+    // which it may override.
+    std::string can = ownConversions(*this)
+                          ? canonicalForDigits(*this, myKesDialRulesItem, strPhoneNumber, false)
+                          : makeCanonicalNumber(myKesDialRulesItem, std::move(strPhoneNumber), "");
     if (can.empty())
         return nullptr;
     // A local number that could not be made canonical, or a service code.

@@ -108,11 +108,12 @@ bool inMaskForm(std::string_view text, const CanonicalNumber& parts) {
 }
 
 /// Whether the readers of a number's digits (the GSM form, the caller identity, the dialling) read
-/// the same from `text` as from `text` laid out with a mask of places and `separators` separators:
-/// the calling code, the area code and the digits of the subscriber number stand as they did, no
-/// "***" keeps a number as it is, and the laid-out number is not too long to be dialled.
+/// the same from `text`, in the form of the mask, as from `text` laid out with that mask of places
+/// and `separators` separators: the calling code, the area code and the digits of the subscriber
+/// number stand as they did, no "***" keeps a number as it is, and the laid-out number is not too
+/// long to be dialled.
 bool digitsReadAlike(std::string_view text, const CanonicalNumber& parts, std::size_t separators) {
-    return inMaskForm(text, parts) && !parts.country.empty() && allDigits(parts.country) &&
+    return !parts.country.empty() && allDigits(parts.country) &&
            text.size() + separators < static_cast<std::size_t>(KesNumberingConfig::MAX_PHONE_NUMBER_LENGTH) &&
            !contains(text, "***") && explaining() == nullptr;
 }
@@ -153,7 +154,9 @@ std::string formatCanonical(Generation& generation, std::string strCanPhoneNumbe
             }
             const CanonicalNumber parts = CanonicalNumber::readAtSeparators(strCanPhoneNumber);
             const std::size_t separators = separatorsOf(*pattern);
-            if (layout == Layout::Digits && separators != std::string_view::npos &&
+            const bool inItsForm =
+                separators != std::string_view::npos && inMaskForm(strCanPhoneNumber, parts);
+            if (layout == Layout::Digits && inItsForm &&
                 digitsReadAlike(strCanPhoneNumber, parts, separators))
                 return std::move(strCanPhoneNumber);
             if (KesExplanation* e = explaining())
@@ -163,8 +166,7 @@ std::string formatCanonical(Generation& generation, std::string strCanPhoneNumbe
                                                   : KesExplanation::Mask::Country,
                               *pattern, parts.area);
             // Placed character by character, a subscriber number without blanks stays as it is.
-            if (separators == 0 && inMaskForm(strCanPhoneNumber, parts) &&
-                indexOf(parts.subscriber, ' ') == std::string_view::npos)
+            if (separators == 0 && inItsForm && indexOf(parts.subscriber, ' ') == std::string_view::npos)
                 return std::move(strCanPhoneNumber);
             std::string_view::size_type placed = 0; // characters of the subscriber part passed
             TextCollector result;

@@ -80,6 +80,17 @@ inline bool ownConversions(KesNumberingRules& facade) {
 std::string makeCanonical(KesDialRulesItem* rules, std::string& strPhoneNumber, const std::string& strPattern,
                           bool withExternalPrefix, Layout layout);
 
+/// facade.makeCanonicalNumber(rules, number, "", withExternalPrefix) for a reader of its digits:
+/// the library's own conversion leaves out a mask that does not change them; a host's override
+/// is called through the virtual table. Takes `number` over.
+inline std::string canonicalForDigits(KesNumberingRules& facade, KesDialRulesItem* rules, std::string& number,
+                                      bool withExternalPrefix) {
+    static const std::string noPattern;
+    if (ownConversions(facade))
+        return makeCanonical(rules, number, noPattern, withExternalPrefix, Layout::Digits);
+    return facade.makeCanonicalNumber(rules, std::move(number), noPattern, withExternalPrefix);
+}
+
 /// formatToGSMCanonicalNumber.
 std::string formatToGsm(Generation& generation, const std::string& strCanPhoneNumber);
 

@@ -16,13 +16,7 @@ namespace numbering {
 std::string KesNumberingRules::makeGSMCanonicalNumber(KesDialRulesItem* myKesDialRulesItem,
                                                       std::string strPhoneNumber, bool withExternalPrefix) {
     const Conversion conversion; // the canonical form and its GSM form from one configuration
-    // The GSM form reads only the digits: the library's own conversion leaves out a mask that does
-    // not change them.
-    std::string can =
-        ownConversions(*this)
-            ? makeCanonical(myKesDialRulesItem, strPhoneNumber, std::string(), withExternalPrefix,
-                            Layout::Digits)
-            : makeCanonicalNumber(myKesDialRulesItem, std::move(strPhoneNumber), "", withExternalPrefix);
+    std::string can = canonicalForDigits(*this, myKesDialRulesItem, strPhoneNumber, withExternalPrefix);
     if (!startsWith(can, '+'))
         return can;
     std::string gsm = formatToGsm(conversion.generation(), can);

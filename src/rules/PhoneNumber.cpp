@@ -78,12 +78,8 @@ std::string withExternalPrefix(KesNumberingRules& facade, KesDialRulesItem* rule
 /// The digits that dial `number` from the installation: its canonical form, dialled; "" when it has
 /// no canonical form.
 std::string dialledForm(KesNumberingRules& facade, KesDialRulesItem* rules, const std::string& number) {
-    // A copy: the number stays for the error line of a failure. The dialling reads only the digits:
-    // the library's own conversion leaves out a mask that does not change them.
-    std::string copy = spareCopyOf(number);
-    std::string canonical = ownConversions(facade)
-                                ? makeCanonical(rules, copy, std::string(), false, Layout::Digits)
-                                : facade.makeCanonicalNumber(rules, std::move(copy), "", false);
+    std::string copy = spareCopyOf(number); // the number stays for the error line of a failure
+    std::string canonical = canonicalForDigits(facade, rules, copy, false);
     return canonical.empty() ? canonical : facade.makeDialableNumber(rules, std::move(canonical));
 }
 
