@@ -15,7 +15,9 @@ namespace numbering {
 /// steps), then calls KesNumberingRules::reload(directory, ReloadPolicy::RefuseErrors) and logs one
 /// info line: "Reloaded the configuration of DIRECTORY after a change", or the refusal
 /// (KesConfigurationRejected::what(): the first error and the count of the other findings), after
-/// which the running configuration stays and the next change is tried again.
+/// which the running configuration stays and the next change is tried again. A directory replaced
+/// as a whole (a new one renamed into its place, or removed and made again) is watched again within
+/// about a second, and its files count as changed.
 ///
 /// Constructing it starts nothing; start() starts two threads (the directory watch and the settle
 /// timer), stop() or the destructor ends them. Changes made while it is stopped are not picked up.

@@ -11,12 +11,14 @@
 #include <Poco/Path.h>
 
 #include <condition_variable>
+#include <fcntl.h>
 #include <mutex>
 #include <optional>
 #include <set>
 #include <sys/stat.h>
 #include <thread>
 #include <typeinfo>
+#include <unistd.h>
 
 namespace numbering {
 
@@ -26,6 +28,35 @@ Logger* logger = Logger::getLogger(typeid(KesConfigurationWatcher).name());
 
 using Clock = std::chrono::steady_clock;
 using Event = Poco::DirectoryWatcher::DirectoryEvent;
+
+/// How often an idle watch looks whether its directory was replaced as a whole.
+const std::chrono::seconds RECHECK(1);
+
+/// A directory held open: its inode stays its own while held, even once the directory is removed,
+/// so that a directory made in its place never passes for it.
+class HeldDirectory {
+public:
+    explicit HeldDirectory(const std::string& path)
+        : fd(::open(path.c_str(), O_RDONLY | O_DIRECTORY | O_CLOEXEC)) {}
+    ~HeldDirectory() {
+        if (fd >= 0)
+            ::close(fd);
+    }
+    HeldDirectory(const HeldDirectory&) = delete;
+    HeldDirectory& operator=(const HeldDirectory&) = delete;
+
+    /// Whether `path` no longer names this directory. One that could not be opened never is.
+    bool replacedAt(const std::string& path) const {
+        struct stat held, named;
+        if (fd < 0 || ::fstat(fd, &held) != 0)
+            return false;
+        return ::stat(path.c_str(), &named) != 0 || held.st_dev != named.st_dev ||
+               held.st_ino != named.st_ino;
+    }
+
+private:
+    const int fd;
+};
 
 /// What the configuration files of `directory` look like from outside: which exist, and their
 /// identity, size and times. Any write, creation, removal or replacement changes it.
@@ -61,26 +92,52 @@ public:
         // by comparing the files, once the settle time after the start has passed.
         atStart = fingerprint(directory, names);
         changedAt = Clock::now();
-        poco = std::make_unique<Poco::DirectoryWatcher>(directory);
-        for (Poco::BasicEvent<const Event>* event :
-             {&poco->itemAdded, &poco->itemRemoved, &poco->itemModified, &poco->itemMovedFrom,
-              &poco->itemMovedTo})
-            *event += Poco::delegate(this, &Watch::changed);
-        poco->scanError += Poco::delegate(this, &Watch::failed);
+        held = std::make_unique<HeldDirectory>(directory);
+        poco = pocoWatcher();
         settler = std::thread([this] { settle(); });
     }
 
     ~Watch() {
-        poco.reset(); // joins Poco's thread: no change is reported from now on
         {
             std::lock_guard<std::mutex> lock(mutex);
             stopping = true;
         }
         wake.notify_one();
-        settler.join();
+        settler.join(); // the settle thread is the only other one that replaces Poco's watcher
+        poco.reset();   // joins Poco's thread
     }
 
 private:
+    /// Poco's watch of the directory as it is now, reporting to this one.
+    std::unique_ptr<Poco::DirectoryWatcher> pocoWatcher() {
+        auto watcher = std::make_unique<Poco::DirectoryWatcher>(directory);
+        for (Poco::BasicEvent<const Event>* event :
+             {&watcher->itemAdded, &watcher->itemRemoved, &watcher->itemModified, &watcher->itemMovedFrom,
+              &watcher->itemMovedTo})
+            *event += Poco::delegate(this, &Watch::changed);
+        watcher->scanError += Poco::delegate(this, &Watch::failed);
+        return watcher;
+    }
+
+    /// An installer may replace the directory as a whole (a new one renamed into place, or removed
+    /// and made again): the system's watch stays on the old one. The new one is watched, and its
+    /// files count as changed. Called without the lock: the old watcher's thread, which is joined
+    /// here, may be waiting for it.
+    void watchAgainIfReplaced() {
+        if (!held->replacedAt(directory))
+            return;
+        try {
+            auto replacement = std::make_unique<HeldDirectory>(directory);
+            poco = pocoWatcher();
+            held = std::move(replacement);
+        } catch (const Poco::Exception&) {
+            return; // not there (yet): looked at again in a moment
+        }
+        std::lock_guard<std::mutex> lock(mutex);
+        changedAt = Clock::now();
+        atStart.reset();
+    }
+
     void changed(const void*, const Event& event) {
         if (names.count(Poco::Path(event.item.path()).getFileName()) == 0)
             return; // an editor's swap file, say
@@ -100,7 +157,11 @@ private:
         std::unique_lock<std::mutex> lock(mutex);
         while (!stopping) {
             if (!changedAt) {
-                wake.wait(lock);
+                if (wake.wait_for(lock, RECHECK) == std::cv_status::timeout && !stopping) {
+                    lock.unlock();
+                    watchAgainIfReplaced();
+                    lock.lock();
+                }
                 continue;
             }
             const Clock::time_point quietFrom = *changedAt + settleTime;
@@ -139,6 +200,7 @@ private:
     std::optional<std::string> atStart;         // the files at the start, until a change is reported
     bool stopping = false;
 
+    std::unique_ptr<HeldDirectory> held; // the directory Poco's watcher watches
     std::unique_ptr<Poco::DirectoryWatcher> poco;
     std::thread settler;
 };

@@ -381,6 +381,20 @@ TEST_F(WatchedWorld, ABrokenEditIsRefusedAndLoggedThenTheCorrectionTaken) {
     }));
 } // the destructor stops it
 
+// An installer's new directory renamed into the place of the watched one is watched in its turn.
+TEST_F(WatchedWorld, ADirectoryReplacedAsAWholeIsWatchedAgain) {
+    KesConfigurationWatcher watcher(world.directory(), SETTLE);
+    watcher.start();
+    const fs::path watched = fs::path(world.directory()).parent_path(), aside = watched.string() + ".old";
+    ConfigurationCopy replacement("replacement", VARIANT_B);
+    fs::rename(watched, aside);
+    fs::rename(fs::path(replacement.directory()).parent_path(), watched);
+    fs::remove_all(aside);
+    EXPECT_TRUE(eventually([&] { return convertAll() == inB; }));
+    world.write(VARIANT_A);
+    EXPECT_TRUE(eventually([&] { return convertAll() == inA; }));
+}
+
 TEST_F(WatchedWorld, StoppingDropsAPendingChange) {
     KesConfigurationWatcher watcher(world.directory(), std::chrono::hours(1));
     watcher.start();
