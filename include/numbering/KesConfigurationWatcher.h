@@ -16,8 +16,9 @@ namespace numbering {
 /// info line: "Reloaded the configuration of DIRECTORY after a change", or the refusal
 /// (KesConfigurationRejected::what(): the first error and the count of the other findings), after
 /// which the running configuration stays and the next change is tried again. A directory replaced
-/// as a whole (a new one renamed into its place, or removed and made again) is watched again within
-/// about a second, and its files count as changed.
+/// as a whole (a new one renamed into its place, removed and made again, or a link on its path
+/// switched to another release) is watched again within about a second, and its files count as
+/// changed.
 ///
 /// Constructing it starts nothing; start() starts two threads (the directory watch and the settle
 /// timer), stop() or the destructor ends them. Changes made while it is stopped are not picked up.

@@ -119,10 +119,10 @@ private:
         return watcher;
     }
 
-    /// An installer may replace the directory as a whole (a new one renamed into place, or removed
-    /// and made again): the system's watch stays on the old one. The new one is watched, and its
-    /// files count as changed. Called without the lock: the old watcher's thread, which is joined
-    /// here, may be waiting for it.
+    /// An installer may replace the directory as a whole (a new one renamed into place, removed and
+    /// made again, a link on its path switched): the system's watch stays on the old one. The new
+    /// one is watched, and its files count as changed. Called without the lock: the old watcher's
+    /// thread, which is joined here, may be waiting for it.
     void watchAgainIfReplaced() {
         if (!held->replacedAt(directory))
             return;
