@@ -45,10 +45,12 @@ public:
     HeldDirectory(const HeldDirectory&) = delete;
     HeldDirectory& operator=(const HeldDirectory&) = delete;
 
+    bool isOpen() const { return fd >= 0; }
+
     /// Whether `path` no longer names this directory. One that could not be opened never is.
     bool replacedAt(const std::string& path) const {
         struct stat held, named;
-        if (fd < 0 || ::fstat(fd, &held) != 0)
+        if (!isOpen() || ::fstat(fd, &held) != 0)
             return false;
         return ::stat(path.c_str(), &named) != 0 || held.st_dev != named.st_dev ||
                held.st_ino != named.st_ino;
@@ -126,13 +128,15 @@ private:
     void watchAgainIfReplaced() {
         if (!held->replacedAt(directory))
             return;
-        try {
-            auto replacement = std::make_unique<HeldDirectory>(directory);
-            poco = pocoWatcher();
-            held = std::move(replacement);
-        } catch (const Poco::Exception&) {
+        auto replacement = std::make_unique<HeldDirectory>(directory);
+        if (!replacement->isOpen())
             return; // not there (yet): looked at again in a moment
+        try {
+            poco = pocoWatcher();
+        } catch (const Poco::Exception&) {
+            return; // gone again
         }
+        held = std::move(replacement);
         std::lock_guard<std::mutex> lock(mutex);
         changedAt = Clock::now();
         atStart.reset();
