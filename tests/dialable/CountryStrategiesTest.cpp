@@ -41,6 +41,7 @@ TEST_F(CountryStrategies, LongDistanceNumbers) {
     KesDialable &russia = *manager->getDialable("7"), &mexico = *manager->getDialable("52");
     KesDialable &argentina = *manager->getDialable("54"), &colombia = *manager->getDialable("57");
     KesDialable& australia = *manager->getDialable("61");
+    EXPECT_EQ(manager->getDialable(""), nullptr) << "no strategy without a calling code";
     KesDialRulesItem plain, mexicoCity = installationIn("55,33"), noArea = installationIn("");
     KesDialRulesItem buenosAires = installationIn("11");
     // Russia, Argentina and Australia never consult the rule's prefix.
@@ -165,10 +166,6 @@ TEST_F(CountryStrategies, GenericLongDistanceAndLocalRulesMergeThePrefix) {
             << c[0] << c[1];
         EXPECT_EQ(strategy.makeLocalDialableNumber(area, number, local.get()), c[3]) << c[0] << c[1];
     }
-}
-
-TEST(KesDialableManager, LendsNoStrategyWithoutACallingCode) {
-    EXPECT_EQ(KesDialableManager::getInstance()->getDialable(""), nullptr);
 }
 
 // A reload reads the operators at once: a strategy made afterwards knows them as they were.

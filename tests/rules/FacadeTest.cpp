@@ -210,7 +210,7 @@ TEST_F(OddInputs, NoDebugTextWhileTracingIsOff) {
 
 TEST_F(CanonicalNumber, TypedNumbers) {
     KesDialRulesItem stockholm = facadeworld::stockholm(), paris = facadeworld::paris();
-    KesDialRulesItem local = facadeworld::stockholm(5), exception = facadeworld::stockholm(0, "18");
+    KesDialRulesItem local = facadeworld::stockholm(5);
     KesDialRulesItem noPrefix("SE", "", 5, "8", 0, ""), spain("ES", "0", 0, "91", 0, "");
     KesDialRulesItem norway("NO", "0", 0, "", 0, ""), denmark("DK", "0", 0, "", 0, "");
     struct Case {
@@ -241,12 +241,10 @@ TEST_F(CanonicalNumber, TypedNumbers) {
         {&stockholm, "08" + std::string(198, '1'), "+46 (0) 8" + std::string(198, '1')},
         // The outside-line prefix is removed once; a number that lacks it is read as it stands.
         {&stockholm, "008 123 456 78", "+46 (0) 812345678", true},
-        {&stockholm, "000 39 06 1234", "+39 061234", true},
         {&stockholm, "8 123 456 78", "812345678", true},
         {&noPrefix, "008 123 456 78", "", true},
-        // Local and exception numbers need nothing, unless there is no outside-line prefix.
+        // A local number needs nothing, unless there is no outside-line prefix.
         {&local, "1234", "1234"},
-        {&exception, "18123", "18123"},
         {&noPrefix, "1234", "1234"},
         {&spain, "91 123 45 67", "+34 911234567"},
         {&norway, "22 12 34 56", "+47 22123456"}, // no long-distance rule, local rule "G"

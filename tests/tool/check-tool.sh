@@ -208,8 +208,6 @@ check 1 "explain of a number that is not one" --config-dir "$data" explain "12a4
 # `numbering check`: the exit status and the output lines follow the worst finding.
 check 0 "shipped configuration" check --config-dir "$data"
 [ -z "$out" ] || fail "the shipped configuration gives findings"
-[[ "$err" =~ ^"0 errors, 0 warnings, 0 notes in "[0-9]+" files: the configuration is clean"$ ]] ||
-    fail "the shipped configuration: no line saying that it is clean"
 NUMBERING_CONFIG_DIR=$data check 0 "shipped configuration through NUMBERING_CONFIG_DIR" check
 
 # Notes only: the installation file is in use, its default is not read.
