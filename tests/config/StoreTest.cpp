@@ -8,8 +8,7 @@ protected:
     void TearDown() override { testconfig::reload(); }
 
     KesNumberingConfig* load(const std::string& dialingRules) {
-        testconfig::write("dialingrules.properties", dialingRules);
-        testconfig::reload();
+        testconfig::reloadWith("dialingrules.properties", dialingRules);
         return KesNumberingConfig::getInstance();
     }
     KesNumberingConfig* load(const std::string& masks, const std::string& switches) {

@@ -51,8 +51,8 @@ TEST(HostileConfiguration, HugeFiles) {
     testconfig::write("dlr_cnp_mask.properties",
                       "Mask_33_1 = " + megabyte + "\nMask_" + megabyte + "_1 = x\n");
     testconfig::write("tz310cnp_49.properties", "Translate=1\nAC_0000=" + megabyte + "\n");
-    testconfig::write("tz310cnp_57.properties", "OP_DEFAULT=" + megabyte + "\nOP_0000=" + megabyte + "\n");
-    testconfig::reload();
+    testconfig::reloadWith("tz310cnp_57.properties",
+                           "OP_DEFAULT=" + megabyte + "\nOP_0000=" + megabyte + "\n");
     EXPECT_GT(convertEverything(), 0);
     EXPECT_EQ(KesNumberingConfig::getInstance()->getCountryNumber("DE"), "49");
     testconfig::clearAll();

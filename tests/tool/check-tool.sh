@@ -181,7 +181,6 @@ diff $data $work/no-france/ 0123456789|numbering: --country: error: Country code
 diff $data|diff wants two configuration directories
 --site $work/missing.properties diff $data $work/same 0123456789|numbering: cannot open the site file $work/missing.properties: File not found: $work/missing.properties
 --site $site diff $data $work/no-france 0123456789|numbering: $site:1: error: Country code 'FR' is not supported by the dialing rules of $work/no-france/
---site $work/missing.properties dial 0123|numbering: cannot open the site file $work/missing.properties
 EOF_REFUSED
 
 run --help
