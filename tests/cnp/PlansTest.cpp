@@ -4,7 +4,6 @@
 // reads area codes.
 #include "Suite.h"
 
-#include "numbering/KesCNP_353.h"
 #include "numbering/KesCNP_49.h"
 
 #include <cstdio>
@@ -215,7 +214,6 @@ TEST(KesAreaCodeTree, MalformedDigitStrings) {
 TEST(PlanFactory, MatchesCallingCodesExactly) {
     for (const char* code : {"35", "0049", "+49", "49 ", "", "39", "3530"})
         EXPECT_EQ(KesCNPFactory::CreateInstance(code), nullptr) << code;
-    EXPECT_NE(dynamic_cast<KesCNP_353*>(plan("353").get()), nullptr);
 }
 
 TEST_F(PlanTest, CachesOnePlanPerCountryAndRemembersCountriesWithout) {
