@@ -93,9 +93,6 @@ const BrokenConfiguration BROKEN[] = {
      "CO=57:00:EF:0F:60F:Colombia:P\nDE=49:00:EF:0F::Germany:P\n"
      "US=1:011:EF:1F:F:US:P\nXF=33:00:EF:0F:0F:F:P\n", // +33 without FR
      ERROR, 0, "no row FR, which the plan of +33 looks up"},
-    {MASKS_FILE, "Mask_33_1=+C (A) x xx xx xx xx\n", ERROR, 0,
-     "no mask for +49 (DE): without one a canonical number keeps only its subscriber number, so \"+49 "
-     "(89) 123456\" becomes \"123456\""},
     {MASKS_FILE, MASKS + "Mask_44=+C x\n", WARNING, 5, "Mask_44 is skipped: no '_' follows"},
     {MASKS_FILE, MASKS + "Mask_1234_1=+C x\n", WARNING, 5,
      "'1234' (from the sixth character up to the next '_') is not one to three"},
@@ -110,8 +107,6 @@ const BrokenConfiguration BROKEN[] = {
     {SWITCHES_FILE, SWITCHES + "cnp49=on\n", WARNING, 3, "cnp49 is skipped"},
     {SWITCHES_FILE, SWITCHES + "cnp_999=on\n", WARNING, 3, "no P row of the dialing rules has calling"},
     {SWITCHES_FILE, SWITCHES + "cnp_33=maybe\n", WARNING, 3, "cnp_33 = maybe is not a switch"},
-    {SWITCHES_FILE, SWITCHES + "cnp_33=OFF\n", WARNING, 3,
-     "switches nothing off: the library keeps only the first valid switch of the file (cnp_1)"},
     {AREA_FILE, "AC_0000=30\n", ERROR, 0, "no Translate key: the plan of +49 fails on it first"},
     {AREA_FILE, "Translate=yes\nAC_0000=30\n", WARNING, 1, "Translate = yes switches translation off"},
     {AREA_FILE, "Translate=1\nAC_0000=30\nAC_0002=89\nAC_0003=40\n", ERROR, 3,
@@ -140,8 +135,6 @@ const BrokenConfiguration BROKEN[] = {
     {"dialingrules_default.properties", RULES + "GB=44:00:EF:0F::UK:P\n", WARNING, 0,
      "lacks 1 of the countries of dialingrules_default.properties, which the library does not read: GB",
      RULES_FILE},
-    {"dlr_cnp_mask_default.properties", MASKS, NOTE, 0,
-     "in use: dlr_cnp_mask_default.properties is not read at all", MASKS_FILE},
     {MASKS_FILE, MASKS + std::string("Mask_7_1=+C\0x\n", 14), ERROR, 5, "NUL byte"},
     {MASKS_FILE, MASKS + "\x01\x02\x03\n", ERROR, 5, "binary content (byte 0x01)"},
     {MASKS_FILE, "Mask_49_1=+C x\n" + MASKS, WARNING, 1, "Mask_49_1 is set again on line 4"},

@@ -4,8 +4,6 @@
 // reads area codes.
 #include "Suite.h"
 
-#include "numbering/KesCNP_353.h"
-#include "numbering/KesCNP_43.h"
 #include "numbering/KesCNP_49.h"
 
 #include <cstdio>
@@ -25,11 +23,6 @@ void PrintTo(const KesCNPRegistry::Plan& plan, std::ostream* out) {
 } // namespace numbering
 
 namespace {
-
-/// "N9numbering9KesCNP_49E": the logger of a plan class.
-std::string loggerOf(const std::string& className) {
-    return "N9numbering" + std::to_string(className.size()) + className + "E";
-}
 
 /// The area codes the shared world gives each plan that reads them (KesCNPRegistry says which).
 std::vector<const char*> worldAreaCodes(const std::string& code) {
@@ -145,10 +138,6 @@ TEST(KesCharsTree, OnlyCodesInsertedShortestFirstAreFlagged) {
     KesCharsTree shortFirst;
     for (const char* code : {"89", "891", "89"})
         shortFirst.insert(code);
-    EXPECT_EQ(shortFirst.isPresent("8912345"), "891");
-    EXPECT_EQ(shortFirst.isPresent("7"), "");
-    EXPECT_TRUE(shortFirst.isAreaCode("89") && shortFirst.isAreaCode("891"));
-    EXPECT_FALSE(shortFirst.isAreaCode("8"));
     EXPECT_FALSE(shortFirst.isAreaCode("8912")) << "not a path";
     EXPECT_EQ(shortFirst.root.numberOfStoredCodes(), 2);
 
@@ -221,59 +210,31 @@ TEST(KesAreaCodeTree, MalformedDigitStrings) {
     EXPECT_EQ(tree.ToString().find('3'), std::string::npos) << "nothing of a refused code is stored";
 }
 
-TEST(KesAreaCodeTree, TracesItsInserts) {
-    const std::string area = "DEBUG N9numbering15KesAreaCodeTreeE - ";
-    testhost::Tracing on;
-    {
-        KesAreaCodeTree tree;
-        for (const char* code : {"30", "301", "30"})
-            tree.insert(code);
-    }
-    std::vector<std::string> traced;
-    for (const std::string& line : testhost::lines())
-        if (line.rfind(area, 0) == 0)
-            traced.push_back(line.substr(area.size()));
-    EXPECT_EQ(traced, (std::vector<std::string>{"KesAreaCodeTree()", "Inserting '30' ...",
-                                                "Insert successful for '30'", "Inserting '301' ...",
-                                                "Insert successful for '301'", "Inserting '30' ...",
-                                                "Insert failed for '30'"}));
-}
-
 // Every code of the registry gives its plan (EveryPlan below); nothing else does.
 TEST(PlanFactory, MatchesCallingCodesExactly) {
     for (const char* code : {"35", "0049", "+49", "49 ", "", "39", "3530"})
         EXPECT_EQ(KesCNPFactory::CreateInstance(code), nullptr) << code;
-    EXPECT_NE(dynamic_cast<KesCNP_353*>(plan("353").get()), nullptr);
 }
 
 TEST_F(PlanTest, CachesOnePlanPerCountryAndRemembersCountriesWithout) {
     KesCNPManager* manager = KesCNPManager::getInstance();
     KesCNP* german = manager->getCNP("DE");
     EXPECT_NE(dynamic_cast<KesCNP_49*>(german), nullptr);
-    EXPECT_EQ(manager->getCNP("DE"), german);
     // A lower-case key misses the cache; the plan it builds is filed under the upper-case key.
     EXPECT_EQ(manager->getCNP("de"), german);
-    {
-        testhost::Tracing on;
-        EXPECT_EQ(manager->getCNP("X"), nullptr);
-        EXPECT_TRUE(testhost::logged("DEBUG N9numbering13KesCNPManagerE - getCNP('X')"));
-        EXPECT_TRUE(testhost::logged("DEBUG N9numbering13KesCNPManagerE - loadCNPClass('X')"));
-    }
+    EXPECT_EQ(manager->getCNP("X"), nullptr);
     EXPECT_TRUE(manager->isCountryNotFound("X"));
     EXPECT_EQ(manager->getCNP("it"), nullptr) << "Italy has no plan";
     EXPECT_TRUE(manager->isCountryNotFound("IT")) << "stored upper-cased";
     EXPECT_FALSE(manager->isCountryNotFound("I"));
     EXPECT_EQ(manager->getCNP("QQ"), nullptr) << "unknown to the dialing rules";
-    KesCNPManager::resetInstance();
-    EXPECT_FALSE(KesCNPManager::getInstance()->isCountryNotFound("X")) << "forgotten with the reset";
 }
 
 TEST_F(PlanTest, SwitchedOffCountryGetsNoPlan) {
     // Only a country number reading as 0 sees the file's switch.
     testconfig::write("dialingrules.properties",
                       std::string(testconfig::STANDARD_DIALING_RULES) + "XZ = 0:00:EF:0F::Zero:P\n");
-    testconfig::write("specific_format_activation.properties", "cnp_0 = off\n");
-    testconfig::reload();
+    testconfig::reloadWith("specific_format_activation.properties", "cnp_0 = off\n");
     KesCNPManager* manager = KesCNPManager::getInstance();
     EXPECT_EQ(manager->getCNP("XZ"), nullptr);
     EXPECT_TRUE(manager->isCountryNotFound("XZ"));
@@ -314,54 +275,10 @@ TEST_F(NoPlanFiles, TranslateIsOnlyOneAndItsAbsenceEndsTheReadingExceptForBelgiu
     }
 }
 
-TEST_F(NoPlanFiles, MissingFilesLeaveAnEmptyTreeAndTheSummaryIsTraced) {
-    writePlanFile("54", "1", {"11", "351"});
-    testhost::Tracing on;
+TEST_F(NoPlanFiles, MissingFilesLeaveAnEmptyTree) {
     Poco::AutoPtr<KesAreaCodePlan> germany = filePlan("49");
-    Poco::AutoPtr<KesAreaCodePlan> argentina = filePlan("54");
     EXPECT_EQ(germany->areaCodeCount, 0);
     EXPECT_TRUE(germany->translate);
-    EXPECT_TRUE(testhost::logged("DEBUG N9numbering9KesCNP_49E - KesCNP_49 : "));
-    EXPECT_TRUE(testhost::logged("KesCNP_49 :  max length areacode : 0 nb area code : 0"));
-    EXPECT_TRUE(testhost::logged("KesCNP_54 :  max length areacode : 3 nb area code : 2"));
-}
-
-TEST_F(PlanTest, ThePlansOwnLines) {
-    struct Case {
-        Site site;
-        std::vector<const char*> numbers;
-        std::vector<const char*> lines;
-    } cases[] = {
-        {{"AR", "0", 0, "11"},
-         {"0111543215678", "9999999999"},
-         {"DlrArgentinaMakeCanonicalNumber('0111543215678', 'CountryCode : 'AR'",
-          "stripNbr('0111543215678', ", "Mobile national prefix is found:15",
-          "Argentina stripNumber returns 11/43215678/true",
-          "DlrArgentinaMakeCanonicalNumber: strCanPhoneNumber=+54 9 (11) 43215678",
-          "Mobile international prefix is found:9",
-          "No area code found but prefix mobile international found before: bad format",
-          "DlrArgentinaMakeCanonicalNumber: not possible to strip the number",
-          "DEBUG N9numbering9KesCNP_54E - KesCNP_54: Destruct"}},
-        {{"CO", "0", 0, "1"}, {"12345678"}, {"KesCNP_57: Destruct"}},
-        {{"IE", "0", 0, "1"},
-         {"011234567"},
-         {"N9numbering10KesCNP_353E - DlrCountryMakeCanonicalNumber returns '+353 (1) 1234567'"}},
-        {{"NL", "0", 0, "20"},
-         {"0201234567"},
-         {"N9numbering9KesCNP_31E - dlr_Country_MakeCanonicalNumber returns '+31 (20) 1234567'",
-          "'201234567' isn't an area code, but begins with '20' which is an area code"}},
-    };
-    for (const Case& c : cases) {
-        testhost::Tracing on;
-        for (const char* number : c.numbers)
-            c.site.convert(number);
-        for (const char* line : c.lines)
-            EXPECT_TRUE(testhost::logged(line)) << line;
-    }
-    // The single-pass plans close with the result only for numbers long enough to be converted.
-    testhost::Tracing on;
-    Site{"NL", "0", 0, "20"}.convert("020");
-    EXPECT_EQ(testhost::countLogged("returns '"), 0);
 }
 
 TEST_F(PlanTest, SelfTestOfTheAreaCodeTree) {
@@ -379,23 +296,16 @@ TEST_F(PlanTest, SelfTestOfTheAreaCodeTree) {
     EXPECT_EQ(flagged, 11) << "every insert succeeds";
 }
 
-TEST_F(PlanTest, SelfTestsOfGermanyAndAustria) {
-    // The shared world gives Germany 30, 89, 221 and 711, Austria 1, 316 and 662.
+TEST_F(PlanTest, SelfTestOfAPlan) {
+    // The shared world gives Germany 30, 89, 221 and 711.
     EXPECT_EQ(printed([] { KesCNP_49::main(nullptr); }),
               "Dialing rules : " + KesDialRulesItem("DE", "1", 5, "170", 0, "").ToString() +
                   "\nLocal 76985411 -> +49 (170) 76985411\n"
                   "Local + prefixe 176985411 -> +49 (170) 76985411\n"
                   "National 0771176985411 -> +49 (711) 76985411\n"
                   "National + prefixe 10771176985411 -> +49 (711) 76985411\n");
-    EXPECT_EQ(printed([] { KesCNP_43::main(nullptr); }),
-              "Dialing rules : " + KesDialRulesItem("AT", "1", 4, "1", 0, "").ToString() +
-                  "\nLocal 27722 -> +43 (1) 27722\n"
-                  "Local + prefixe 127722 -> +43 (1) 27722\n"
-                  "National 0127722 -> +43 (1) 27722\n"
-                  "National + prefixe 10127722 -> +43 (1) 27722\n");
     // An unknown country is reported, not thrown.
-    testconfig::write("dialingrules.properties", "FR = 33:00:EF:0F::France:P\n");
-    testconfig::reload();
+    testconfig::reloadWith("dialingrules.properties", "FR = 33:00:EF:0F::France:P\n");
     EXPECT_EQ(printed([] { KesCNP_49::main(nullptr); }), "Country code 'DE' is not supported\n");
 }
 
@@ -412,40 +322,33 @@ const Group TABLE[] = {
     // ends behind the own area code.
     {{"DE", "0", 5, "89"},
      {"0301234567 -> +49 (30) 1234567", "00301234567 -> +49 (30) 1234567", "1234567 -> +49 (89) 1234567",
-      "0451234567 -> +49 (89) 451234567", "030 -> +49 (89) 030", "0123 -> +49 (89) 123",
-      "030123 -> +49 (30) 123", "03012 -> +49 (89) 3012", "12", "",
-      "00301234567890123 -> +49 (30) 1234567890123", "003012345678901234 -> +49 (89) 003012345678901234"}},
-    {{"DE", "9", 5, "89"},
-     {"90301234567 -> +49 (30) 1234567", "91234567 -> +49 (89) 1234567", "9001234",
-      "0301234567 -> +49 (30) 1234567", "912 -> +49 (89) 912"}},
+      "030 -> +49 (89) 030", "0123 -> +49 (89) 123", "030123 -> +49 (30) 123", "03012 -> +49 (89) 3012", "12",
+      "", "00301234567890123 -> +49 (30) 1234567890123",
+      "003012345678901234 -> +49 (89) 003012345678901234"}},
+    {{"DE", "9", 5, "89"}, {"90301234567 -> +49 (30) 1234567", "9001234"}},
     {{"DE", "0", 5, ""}, {"0451234567 -> +49 () 451234567", "1234567"}},
     // Austria takes four digits where the area code is unknown.
     {{"AT", "0", 4, "1"},
-     {"0316123456 -> +43 (316) 123456", "0512345678 -> +43 (5123) 45678", "0512345 -> +43 (1) 512345",
-      "0316123 -> +43 (316) 123", "27722 -> +43 (1) 27722", "00316123456 -> +43 (316) 123456"}},
+     {"0316123456 -> +43 (316) 123456", "0512345678 -> +43 (5123) 45678", "0512345 -> +43 (1) 512345"}},
     // Switzerland: nine or ten characters, directly or behind the outside-line prefix.
     {{"CH", "0", 0, ""},
      {"12345678", "011234567 -> +41 (1) 1234567", "021234567", "0441234567 -> +41 (44) 1234567",
       "0800123456 -> +41 800123456", "4412345678", "00441234567 -> +41 (44) 1234567", "10441234567",
       "000441234567"}},
-    {{"CH", "99", 0, ""}, {"99011234567 -> +41 (1) 1234567", "990441234567 -> +41 (44) 1234567"}},
-    {{"CH", "999", 0, ""}, {"99901234567", "999011234567 -> +41 (1) 1234567"}},
+    {{"CH", "99", 0, ""}, {"99011234567 -> +41 (1) 1234567"}},
+    {{"CH", "999", 0, ""}, {"99901234567"}},
     {{"CH", "", 0, ""}, {"00441234567"}},
     // France around its national length of ten; what already carries the prefix is not completed.
     {{"FR", "0", 0, ""},
-     {"12345", "12345678", "123456789 -> +33 (0) 123456789", "012345678", "0123456789 -> +33 (0) 123456789",
+     {"12345678", "123456789 -> +33 (0) 123456789", "012345678", "0123456789 -> +33 (0) 123456789",
       "1234567890 -> +33 (1) 234567890", "00123456789 -> +33 (0) 123456789", "10123456789", "000123456789"}},
     {{"FR", "0", 10, ""}, {"123456789", "0123456789 -> +33 (0) 123456789"}},
     // Russia around eleven: length alone decides.
-    {{"RU", "0", 0, ""},
-     {"495123456", "4951234567 -> +7 (495) 1234567", "8495123456 -> +7 (849) 5123456",
-      "84951234567 -> +7 (495) 1234567", "94951234567 -> +7 (495) 1234567",
-      "084951234567 -> +7 (495) 1234567", "184951234567", "0084951234567"}},
+    {{"RU", "0", 0, ""}, {"4951234567 -> +7 (495) 1234567", "8495123456 -> +7 (849) 5123456"}},
     {{"RU", "0", 0, "", "49"}, {"4951234567", "3951234567 -> +7 (395) 1234567"}},
     // North America: no outside-line prefix; area and exchange codes never begin with 0 or 1.
     {{"US", "9", 0, "212"},
-     {"555123", "5551234 -> +1 (212) 5551234", "1551234", "15551234 -> +1 (212) 5551234", "95551234",
-      "11551234"}},
+     {"555123", "5551234 -> +1 (212) 5551234", "1551234", "15551234 -> +1 (212) 5551234", "95551234"}},
     {{"US", "", 0, "212"},
      {"4155551234 -> +1 (415) 5551234", "4151551234", "1155551234", "14155551234 -> +1 (415) 5551234",
       "04155551234 -> +1 (415) 5551234", "24155551234"}},
@@ -453,12 +356,11 @@ const Group TABLE[] = {
     // The single-pass plans: from six (NL, GB), nine (BE) or five (IE) characters.
     {{"NL", "0", 0, "20"},
      {"0201234567 -> +31 (20) 1234567", "0591234567 -> +31 (0) 591234567", "1234567 -> +31 (20) 1234567",
-      "020", "02012", "020123 -> +31 (20) 123", "0031201234567 -> +31 (0) 031201234567"}},
+      "02012", "020123 -> +31 (20) 123"}},
     {{"BE", "0", 0, "2"},
-     {"12345678", "123456789", "02123456", "021234567 -> +32 (2) 1234567",
-      "0501234567 -> +32 (0) 501234567"}},
+     {"123456789", "02123456", "021234567 -> +32 (2) 1234567", "0501234567 -> +32 (0) 501234567"}},
     {{"GB", "9", 0, "20"},
-     {"71234567 -> +44 (20) 71234567", "212345 -> +44 (20) 212345", "1234567", "12345",
+     {"71234567 -> +44 (20) 71234567", "212345 -> +44 (20) 212345", "1234567",
       "01611234567 -> +44 (161) 1234567", "0123456 -> +44 (0) 123456"}},
     {{"IE", "0", 0, "1"},
      {"011234567 -> +353 (1) 1234567", "0911234567 -> +353 (91) 1234567", "0123", "01234 -> +353 (1) 234",
@@ -467,57 +369,45 @@ const Group TABLE[] = {
     // Australia decides by exact length.
     {{"AU", "0", 0, "2"},
      {"0212345678 -> +61 (2) 12345678", "0512345678 -> +61 (0) 512345678", "1300123456 -> +61 1300 123456",
-      "1800123456 -> +61 1800 123456", "131234 -> +61 13 1234", "141234", "1312345", "13001234567",
-      "12345678 -> +61 (2) 12345678", "1900123456", "00212345678", "021234567", ""}},
-    {{"AU", "0", 0, ""}, {"12345678", "1300123456 -> +61 1300 123456"}},
+      "131234 -> +61 13 1234", "141234", "1312345", "12345678 -> +61 (2) 12345678", "1900123456",
+      "00212345678", "021234567"}},
+    {{"AU", "0", 0, ""}, {"12345678"}},
     // Colombia by length; the carrier digits are dropped.
     {{"CO", "0", 0, "1"},
-     {"123456", "1234567 -> +57 (1) 1234567", "12345678", "012345678", "0511234567 -> +57 (1) 1234567",
-      "5511234567", "0330012345 -> +57 (300) 12345", "04561234567 -> +57 (1) 234567",
-      "045611234567 -> +57 (1) 1234567", "033001234567 -> +57 (300) 1234567",
-      "0456812345678 -> +57 (8) 12345678"}},
+     {"123456", "1234567 -> +57 (1) 1234567", "012345678", "0511234567 -> +57 (1) 1234567", "5511234567",
+      "0330012345 -> +57 (300) 12345", "045611234567 -> +57 (1) 1234567",
+      "033001234567 -> +57 (300) 1234567"}},
     {{"CO", "0", 0, ""}, {"1234567 -> +57 () 1234567"}},
     // Mexico: ten national digits; the plan file's codes come before the two-digit rule.
     {{"MX", "0", 0, "55"},
-     {"5512345678 -> +52 (55) 12345678", "8112345678 -> +52 (81) 12345678", "2221234567 -> +52 (222) 1234567",
-      "2222123456 -> +52 (2222) 123456", "015512345678 -> +52 (55) 12345678",
-      "012221234567 -> +52 (222) 1234567", "0445512345678 -> +52 (155) 12345678",
-      "0452221234567 -> +52 (1222) 1234567", "0115512345678 -> +52 (155) 12345678",
-      "15512345678 -> +52 (155) 12345678", "05512345678 -> +52 (55) 12345678",
-      "0015512345678 -> +52 (55) 12345678", "12345678", "22345678 -> +52 (55) 22345678"}},
+     {"5512345678 -> +52 (55) 12345678", "2221234567 -> +52 (222) 1234567", "2222123456 -> +52 (2222) 123456",
+      "015512345678 -> +52 (55) 12345678", "0445512345678 -> +52 (155) 12345678",
+      "0115512345678 -> +52 (155) 12345678", "15512345678 -> +52 (155) 12345678",
+      "05512345678 -> +52 (55) 12345678", "12345678", "22345678 -> +52 (55) 22345678"}},
     {{"MX", "9", 0, "55"},
      {"1512345678", "0123456789", "551234567", "55123456789", "044551234567", "0465512345678", "011234567",
-      "55-1234-5678", "1234567", "", "9"}},
+      "55-1234-5678", "9"}},
     {{"MX", "0", 0, "222"}, {"2345678 -> +52 (222) 2345678", "22345678"}},
-    {{"MX", "0", 0, ""}, {"2345678"}},
     // Argentina: the mobile markers 15 (behind the area code) and 9 (in front of it).
     {{"AR", "0", 0, "11"},
-     {"43215678 -> +54 (11) 43215678", "4321567 -> +54 (11) 4321567", "01143215678 -> +54 (11) 43215678",
+     {"43215678 -> +54 (11) 43215678", "01143215678 -> +54 (11) 43215678",
       "0111543215678 -> +54 9 (11) 43215678", "91143215678 -> +54 9 (11) 43215678",
-      "1543215678 -> +54 9 (11) 43215678", "03514321567 -> +54 (351) 4321567",
-      "0351154321567 -> +54 9 (351) 4321567", "0221432156 -> +54 (11) 221432156", "12345 -> +54 (11) 12345",
-      "9999999999", "011154321567890 -> +54 9 (11) 4321567890", "0123456789012345", "09221432156"}},
+      "1543215678 -> +54 9 (11) 43215678", "0221432156 -> +54 (11) 221432156", "9999999999",
+      "011154321567890 -> +54 9 (11) 4321567890", "0123456789012345"}},
     // New Zealand: one-digit areas, mobiles of six to eight digits behind their prefix, services.
-    {{"NZ", "", 0, ""}, {"031234567 -> +64 (3) 1234567", "051234567", "01234567", "03123456", "0312345678"}},
     {{"NZ", "", 0, ""},
-     {"02112345", "021123456 -> +64 (21) 123456", "0211234567 -> +64 (21) 1234567",
-      "02112345678 -> +64 (21) 12345678", "021123456789", "0271234567 -> +64 (27) 1234567", "0231234567",
-      "024012345 -> +64 (240) 12345"}},
-    {{"NZ", "", 0, ""},
-     {"080012345", "0800123456 -> +64 (800) 123456", "08001234567 -> +64 (800) 1234567", "080012345678",
-      "0508123456 -> +64 (508) 123456", "09001234", "090012345 -> +64 (900) 12345", "0900123456"}},
+     {"031234567 -> +64 (3) 1234567", "051234567", "03123456", "0312345678", "02112345",
+      "021123456 -> +64 (21) 123456", "02112345678 -> +64 (21) 12345678", "021123456789", "0231234567",
+      "024012345 -> +64 (240) 12345", "0800123456 -> +64 (800) 123456", "090012345 -> +64 (900) 12345"}},
     {{"NZ", "", 0, "9"},
-     {"3456789 -> +64 (9) 3456789", "1234567", "0234567", "345678", "34567890", "", "09*234567", "345678#",
-      "+6491234567"}},
+     {"3456789 -> +64 (9) 3456789", "1234567", "0234567", "345678", "34567890", "09*234567"}},
     {{"NZ", "", 0, "09"}, {"3456789 -> +64 (9) 3456789"}},
     {{"NZ", "", 0, "5"}, {"3456789"}},
     {{"NZ", "", 0, "0"}, {"3456789"}},
     {{"NZ", "1", 0, "4"},
-     {"1091234567 -> +64 (9) 1234567", "10211234567 -> +64 (21) 1234567", "10800123456 -> +64 (800) 123456",
-      "13456789 -> +64 (4) 3456789", "1051234567", "1", "2091234567"}},
+     {"1091234567 -> +64 (9) 1234567", "13456789 -> +64 (4) 3456789", "1051234567", "1", "2091234567"}},
     // With "0" as outside-line prefix the national number itself is tried first.
-    {{"NZ", "0", 0, "4"},
-     {"090012345 -> +64 (900) 12345", "0091234567 -> +64 (9) 1234567", "03456789 -> +64 (4) 3456789"}},
+    {{"NZ", "0", 0, "4"}, {"090012345 -> +64 (900) 12345", "03456789 -> +64 (4) 3456789"}},
 };
 
 using Conversions = PlanTest;
@@ -551,16 +441,11 @@ TEST_F(Conversions, PlansReadTheStoreInUseAndMissingRowsMeanNoNationalPrefix) {
     KesDialRulesItem french; // not validated against the dialing rules
     french.setExtPrefix("0");
     Poco::AutoPtr<KesCNP> argentina = plan("54"), france = plan("33"), russia = plan("7");
-    testconfig::write("dialingrules.properties", "DE = 49:00:EF:0F::Germany:P\n");
-    testconfig::reload();
+    testconfig::reloadWith("dialingrules.properties", "DE = 49:00:EF:0F::Germany:P\n");
     EXPECT_EQ(argentina->dlr_Country_MakeCanonicalNumber("1143215678", &argentine), "+54 (11) 43215678");
     EXPECT_EQ(argentina->dlr_Country_MakeCanonicalNumber("01143215678", &argentine), "+54 (11) 01143215678");
     EXPECT_EQ(france->dlr_Country_MakeCanonicalNumber("123456789", &french), "123456789");
     EXPECT_EQ(russia->dlr_Country_MakeCanonicalNumber("4951234567", &french), "4951234567");
-    for (const char* number : {"0123456789", "00123456789"})
-        EXPECT_EQ(france->dlr_Country_MakeCanonicalNumber(number, &french), "+33 (0) 123456789");
-    for (const char* number : {"84951234567", "084951234567"})
-        EXPECT_EQ(russia->dlr_Country_MakeCanonicalNumber(number, &french), "+7 (495) 1234567");
 }
 
 // The factory makes the class named after the calling code; it writes its lines only while tracing.
@@ -570,19 +455,12 @@ TEST_P(EveryPlan, IsTheClassOfItsCountryAndTracesOnlyWhileTracing) {
     ASSERT_EQ(site.callingCode(), row.callingCode)
         << "the dialing rules give " << row.country << " another code";
     const std::string className = std::string("KesCNP_") + row.callingCode;
-    const std::string prefix = "DEBUG " + loggerOf(className) + " - ";
-    const std::string number = "0201234567";
-    // The Colombian plan names Argentina; the rules' text ends in a NUL, which ends the line.
-    const std::string operation =
-        (className == "KesCNP_54" || className == "KesCNP_57" ? "DlrArgentinaMakeCanonicalNumber('"
-                                                              : "dlr_Country_MakeCanonicalNumber('") +
-        number + "', 'CountryCode : '" + row.country + "'";
+    const std::string logger = "DEBUG N9numbering" + std::to_string(className.size()) + className + "E - ";
     for (bool tracing : {false, true}) {
         testhost::Tracing scope(tracing);
-        site.convert(number);
+        site.convert("0201234567");
         EXPECT_EQ(testhost::lines().empty(), !tracing);
-        EXPECT_EQ(testhost::logged(prefix + className + "()"), tracing);
-        EXPECT_EQ(testhost::logged(prefix + operation), tracing);
+        EXPECT_EQ(testhost::logged(logger + className + "()"), tracing);
     }
 }
 
@@ -623,8 +501,7 @@ TEST_P(EveryPlan, ReadsItsCountrysRowOnlyWhenItLooksItUp) {
     for (std::string line; std::getline(standard, line);)
         if (line.compare(0, 3, std::string(row.country) + " ") != 0)
             withoutRow += line + "\n";
-    testconfig::write("dialingrules.properties", withoutRow);
-    testconfig::reload();
+    testconfig::reloadWith("dialingrules.properties", withoutRow);
     EXPECT_EQ(convertAll() != withRow, row.looksUpCountry) << withRow;
 }
 

@@ -127,32 +127,11 @@ private:
     fs::path path;
 };
 
-std::string shipped(const std::string& fileName) {
+/// The shipped `fileName` with `lines` ("KEY=value\n") appended: the last value of a key counts, and
+/// every country keeps a mask, so that the configuration check finds no error.
+std::string shippedWith(const std::string& fileName, const std::string& lines) {
     std::ifstream file(std::string(NUMBERING_SHIPPED_DATA) + fileName);
-    return std::string((std::istreambuf_iterator<char>(file)), std::istreambuf_iterator<char>());
-}
-
-/// The shipped dialing rules with another French international prefix.
-std::string dialingRulesWithFrenchPrefix(const std::string& prefix) {
-    std::string text = shipped("dialingrules_default.properties");
-    const std::string france = "FR=33:00:";
-    const std::string::size_type at = text.find(france);
-    return at == std::string::npos ? text : text.replace(at, france.size(), "FR=33:" + prefix + ":");
-}
-
-/// The shipped masks with those of `lines` ("Mask_33_1=...\n") in place of the shipped ones: every
-/// country keeps a mask, so that the configuration check finds no error.
-std::string shippedMasksWith(const std::string& lines) {
-    std::string text = shipped("dlr_cnp_mask_default.properties");
-    for (std::string::size_type begin = 0; begin < lines.size();) {
-        const std::string::size_type end = lines.find('\n', begin) + 1;
-        const std::string line = lines.substr(begin, end - begin);
-        const std::string key = "\n" + line.substr(0, line.find('=') + 1);
-        const std::string::size_type at = text.find(key);
-        text.replace(at + 1, text.find('\n', at + 1) - at, line);
-        begin = end;
-    }
-    return text;
+    return std::string((std::istreambuf_iterator<char>(file)), std::istreambuf_iterator<char>()) + lines;
 }
 
 /// Numbers whose every form differs between the variants: area codes, masks, international prefix.
@@ -163,15 +142,18 @@ const std::pair<const char*, const char*> RELOADED[] = {
 
 /// Two variants of the shipped configuration that convert RELOADED otherwise.
 const Files VARIANT_A = {
-    {"dlr_cnp_mask.properties", shippedMasksWith("Mask_33_1=+C (a) x xx xx xx xx\nMask_49_1=+C (A) x\n"
-                                                 "Mask_44_1=+C (A) x\nMask_1_1=+C (A) x\n")},
+    {"dlr_cnp_mask.properties",
+     shippedWith("dlr_cnp_mask_default.properties", "Mask_33_1=+C (a) x xx xx xx xx\nMask_49_1=+C (A) x\n"
+                                                    "Mask_44_1=+C (A) x\nMask_1_1=+C (A) x\n")},
     {"tz310cnp_49.properties", "Translate=1\nAC_0000=30\nAC_0001=89\n"},
-    {"dialingrules.properties", dialingRulesWithFrenchPrefix("00")}};
+    {"dialingrules.properties", shippedWith("dialingrules_default.properties", "")}};
 const Files VARIANT_B = {
-    {"dlr_cnp_mask.properties", shippedMasksWith("Mask_33_1=+C (a) xxxxxxxxx\nMask_49_1=+C (A) xx xx x\n"
-                                                 "Mask_44_1=+C (A) xx x\nMask_1_1=+C (A) xxx x\n")},
+    {"dlr_cnp_mask.properties",
+     shippedWith("dlr_cnp_mask_default.properties", "Mask_33_1=+C (a) xxxxxxxxx\nMask_49_1=+C (A) xx xx x\n"
+                                                    "Mask_44_1=+C (A) xx x\nMask_1_1=+C (A) xxx x\n")},
     {"tz310cnp_49.properties", "Translate=1\nAC_0000=30\nAC_0001=891\n"},
-    {"dialingrules.properties", dialingRulesWithFrenchPrefix("000")}};
+    {"dialingrules.properties",
+     shippedWith("dialingrules_default.properties", "FR=33:000:EF:0F:0F:France:P\n")}};
 
 /// The canonical, GSM and dialled forms of one number.
 std::vector<std::string> convertOnce(const std::pair<const char*, const char*>& typed) {
@@ -407,63 +389,33 @@ TEST_F(WatchedWorld, StoppingDropsAPendingChange) {
     EXPECT_FALSE(testhost::logged(LOGGED_AS));
 }
 
-namespace {
-
-struct Edit {
-    const char* what;
-    Files files; // written over VARIANT_B
-    ReloadPolicy policy;
-    const char* refusedFor; // the file of the first error, or null when the reload takes the edit
-};
-
-// Made when the test runs: the variants are another file's statics.
-std::vector<Edit> edits() {
-    return {
-        {"dialing rules without a usable row",
-         {{"dialingrules.properties", "\n"}},
-         ReloadPolicy::RefuseErrors,
-         "dialingrules.properties"},
-        {"masks saved as UTF-16, plain reload",
-         {{"dlr_cnp_mask.properties", testhost::utf16(VARIANT_B[0].second)}},
-         ReloadPolicy::Plain,
-         nullptr},
-        {"warnings only (masks that lack the default's countries)", {}, ReloadPolicy::RefuseErrors, nullptr},
-    };
-}
-
-} // namespace
-
+// A reload that refuses errors keeps the running configuration; a plain reload takes even them.
 TEST(ReloadPolicy, ErrorsAreRefusedAndTheRunningConfigurationStays) {
-    ConfigurationCopy good("good", VARIANT_A);
+    ConfigurationCopy good("good", VARIANT_A), broken("broken", VARIANT_B), garbled("garbled", VARIANT_B);
     ASSERT_EQ(KesConfigurationCheck::check(good.directory()).status(), 1) << "warnings, which never refuse";
-    for (const Edit& edit : edits()) {
-        SCOPED_TRACE(edit.what);
-        KesNumberingRules::reload(good.directory(), ReloadPolicy::RefuseErrors);
-        const auto before = convertAll();
-        ConfigurationCopy edited("edited", VARIANT_B);
-        edited.write(edit.files);
-        if (edit.refusedFor == nullptr) {
-            KesNumberingRules::reload(edited.directory(), edit.policy);
-            EXPECT_NE(convertAll(), before);
-            EXPECT_EQ(KesNumberingConfig::configDirectory(), edited.directory());
-            continue;
-        }
-        try {
-            KesNumberingRules::reload(edited.directory(), edit.policy);
-            ADD_FAILURE() << "taken";
-        } catch (const KesConfigurationRejected& refused) {
-            EXPECT_EQ(refused.directory(), edited.directory());
-            EXPECT_EQ(refused.firstError().file, edited.directory() + edit.refusedFor);
-            EXPECT_EQ(refused.report().status(), 2);
-            EXPECT_EQ(std::string(refused.what())
-                          .rfind("Refused the configuration of " + edited.directory() +
-                                     ", the running configuration stays: " + refused.firstError().text(),
-                                 0),
-                      0u)
-                << refused.what();
-        }
-        EXPECT_EQ(convertAll(), before);
-        EXPECT_EQ(KesNumberingConfig::configDirectory(), good.directory());
+    KesNumberingRules::reload(good.directory(), ReloadPolicy::RefuseErrors);
+    const auto before = convertAll();
+    broken.write({{"dialingrules.properties", "\n"}}); // no usable row
+    try {
+        KesNumberingRules::reload(broken.directory(), ReloadPolicy::RefuseErrors);
+        ADD_FAILURE() << "taken";
+    } catch (const KesConfigurationRejected& refused) {
+        EXPECT_EQ(refused.directory(), broken.directory());
+        EXPECT_EQ(refused.firstError().file, broken.directory() + "dialingrules.properties");
+        EXPECT_EQ(refused.report().status(), 2);
+        EXPECT_EQ(std::string(refused.what())
+                      .rfind("Refused the configuration of " + broken.directory() +
+                                 ", the running configuration stays: " + refused.firstError().text(),
+                             0),
+                  0u)
+            << refused.what();
     }
+    EXPECT_EQ(convertAll(), before);
+    EXPECT_EQ(KesNumberingConfig::configDirectory(), good.directory());
+
+    garbled.write({{"dlr_cnp_mask.properties", testhost::utf16(VARIANT_B[0].second)}}); // saved as UTF-16
+    KesNumberingRules::reload(garbled.directory(), ReloadPolicy::Plain);
+    EXPECT_NE(convertAll(), before);
+    EXPECT_EQ(KesNumberingConfig::configDirectory(), garbled.directory());
     KesNumberingRules::reload(std::string());
 }

@@ -64,10 +64,7 @@ TEST_F(DialRulesItem, LengthsAreaCodesAndText) {
                                             "AreaCode : '1', m_areaCodesList :  '1' '2', Except length : 3, "
                                             "Except begin : '00'") +
                                     '\0');
-    testhost::Tracing on;
     EXPECT_FALSE(paris.isLocalNumber("1234"));
-    EXPECT_EQ(testhost::lines(),
-              std::vector<std::string>{"DEBUG N9numbering16KesDialRulesItemE - isLocalNumber('1234')=false"});
 }
 
 // Every setting of a site file reaches the KesDialRulesItem (the tool's tests cover check()).

@@ -32,9 +32,9 @@ protected:
         testhost::clear();
     }
 
-    void useMasks(const std::string& masks) {
-        testconfig::write("dlr_cnp_mask.properties", masks);
-        testconfig::reload();
+    /// `file` rewritten with `content`, the configuration reloaded.
+    void use(const std::string& file, const std::string& content) {
+        testconfig::reloadWith(file, content);
         facade = KesNumberingRules::getInstance();
     }
 
@@ -76,11 +76,7 @@ TEST_F(Facade, CountryLookUpsPassThroughTheStore) {
 // A reset drops every cache with the facade, so that the next use reads the files again.
 TEST_F(Facade, ResetRereadsTheFiles) {
     testconfig::write("dialingrules.properties", "SE = 46:00:EF:0F::Konungariket Sverige:P\n");
-    {
-        testhost::Tracing tracing;
-        KesNumberingRules::resetInstance();
-        EXPECT_EQ(testhost::lines().front(), "DEBUG N9numbering17KesNumberingRulesE - Releasing resources");
-    }
+    KesNumberingRules::resetInstance();
     EXPECT_EQ(KesNumberingRules::instance, nullptr);
     EXPECT_EQ(KesNumberingConfig::instance, nullptr);
     facade = KesNumberingRules::getInstance();
@@ -99,15 +95,12 @@ TEST_F(Facade, CallerLineIdentities) {
         {&stockholm, "+46 31 123 456", "31123456", &KesEnumOrigin::NATIONAL},
         // The national prefix in the parentheses, in place of an area code.
         {&stockholm, "08 123 456 78", "812345678", &KesEnumOrigin::NATIONAL},
-        {&stockholm, "+39 06 1234", "39061234", &KesEnumOrigin::INTERNATIONAL},
         // Abroad, with a national prefix equal to the installation's own: left out ...
         {&stockholm, "+48 (0) 22 123 45 67", "48221234567", &KesEnumOrigin::INTERNATIONAL},
         // ... the installation's, not the calling country's: Belarus writes "8".
         {&minsk, "+48 (0) 22 123 45 67", "480221234567", &KesEnumOrigin::INTERNATIONAL},
-        {&minsk, "+46 (8) 123", "46123", &KesEnumOrigin::INTERNATIONAL},
-        // Not canonical: a local number and a service code.
+        // Not canonical: a local number.
         {&stockholm, "1234", "1234", &KesEnumOrigin::PRIVATE_1},
-        {&stockholm, "*21#", "*21#", &KesEnumOrigin::PRIVATE_1},
     };
     for (const Case& c : cases) {
         Poco::AutoPtr<KesClid> clid(facade->makeClid(c.rules, c.calling));
@@ -200,10 +193,6 @@ TEST_F(OddInputs, EveryMessageIsOneLogLine) {
             EXPECT_TRUE(i == lineBreak || (static_cast<unsigned char>(line[i]) >= 0x20 && line[i] != '\x7f'))
                 << "control " << int(line[i]) << " in: " << line;
     }
-    // The forged text is there to read, escaped.
-    EXPECT_TRUE(testhost::logged("PhoneNumber: '12\\nERROR N9numbering17KesNumberingRulesE - forged'"));
-    EXPECT_TRUE(testhost::logged("\\x1b[2J\\x1b[31m0123456789"));
-    EXPECT_TRUE(testhost::logged("Except begin : '1\\n2'"));
 }
 
 TEST_F(OddInputs, NoDebugTextWhileTracingIsOff) {
@@ -216,23 +205,21 @@ TEST_F(OddInputs, NoDebugTextWhileTracingIsOff) {
 
 TEST_F(CanonicalNumber, TypedNumbers) {
     KesDialRulesItem stockholm = facadeworld::stockholm(), paris = facadeworld::paris();
-    KesDialRulesItem local = facadeworld::stockholm(5), exception = facadeworld::stockholm(0, "18");
+    KesDialRulesItem local = facadeworld::stockholm(5);
     KesDialRulesItem noPrefix("SE", "", 5, "8", 0, ""), spain("ES", "0", 0, "91", 0, "");
     KesDialRulesItem norway("NO", "0", 0, "", 0, ""), denmark("DK", "0", 0, "", 0, "");
     struct Case {
         KesDialRulesItem* rules;
         std::string typed;
         std::string expected;
-        const char* traced = nullptr; // a line the conversion writes
         bool withExternalPrefix = false;
     } const cases[] = {
         // National by prefix: the national prefix stands in the parentheses.
-        {&stockholm, "08-123 456 78", "+46 (0) 812345678", "No special format defined for country SE"},
+        {&stockholm, "08-123 456 78", "+46 (0) 812345678"},
         // International by prefix: a country without national prefix writes no area code ...
         {&stockholm, "00 39 06 1234 5678", "+39 0612345678"},
         // ... one with a national prefix has it put in front, the own country too.
         {&stockholm, "00 48 22 123 45 67", "+48 (0) 221234567"},
-        {&stockholm, "00 46 8 123 456 78", "+46 (0) 812345678"},
         {&stockholm, "00 999 123", "00999123"},    // unknown calling code
         {&stockholm, "8 123 456 78", "812345678"}, // neither prefix: local or national cannot be told
         {&stockholm, "123|45", "123"},             // the scan ends at a bar
@@ -247,36 +234,30 @@ TEST_F(CanonicalNumber, TypedNumbers) {
         {&stockholm, "0A-1", "0A1"},
         {&stockholm, "08" + std::string(198, '1'), "+46 (0) 8" + std::string(198, '1')},
         // The outside-line prefix is removed once; a number that lacks it is read as it stands.
-        {&stockholm, "008 123 456 78", "+46 (0) 812345678", nullptr, true},
-        {&stockholm, "000 39 06 1234", "+39 061234", nullptr, true},
-        {&stockholm, "8 123 456 78", "812345678", nullptr, true},
-        {&noPrefix, "008 123 456 78", "", nullptr, true},
-        // Local and exception numbers need nothing, unless there is no outside-line prefix.
-        {&local, "1234", "1234", "Nothing to do for1234"},
-        {&exception, "18123", "18123", "Nothing to do for18123"},
-        {&noPrefix, "1234", "1234", "No special format defined for country SE"},
-        {&spain, "91 123 45 67", "+34 911234567",
-         "There is no difference between local and national phone number format'91 123 45 67'"},
+        {&stockholm, "008 123 456 78", "+46 (0) 812345678", true},
+        {&stockholm, "8 123 456 78", "812345678", true},
+        {&noPrefix, "008 123 456 78", "", true},
+        // A local number needs nothing, unless there is no outside-line prefix.
+        {&local, "1234", "1234"},
+        {&noPrefix, "1234", "1234"},
+        {&spain, "91 123 45 67", "+34 911234567"},
         {&norway, "22 12 34 56", "+47 22123456"}, // no long-distance rule, local rule "G"
         // Denmark writes local and national numbers differently but has no national prefix.
-        {&denmark, "33 12 34 56", "33123456",
-         "Can't translate to a canonical phone number : we don't known if '33123456' is a local or "
-         "national phone number"},
+        {&denmark, "33 12 34 56", "33123456"},
         // A plan decides where one exists: six French digits fit no French shape.
         {&paris, "01 23 45 67 89", "+33 (0) 123456789"},
-        {&paris, "012345", "012345", "Source number to be altered : '012345'"},
+        {&paris, "012345", "012345"},
         {&stockholm, "012345", "+46 (0) 12345"},
         // New Zealand without a national prefix: "+64" leaves nothing for its plan.
-        {&stockholm, "+64", "", "Altered Source Number : ''"},
-        {&stockholm, "0123x", "", "MakeCanonical : wrong character in number : 0123x"},
+        {&stockholm, "+64", ""},
+        {&stockholm, "0123x", ""},
         {&stockholm, "   ", ""},
         {&stockholm, "08\t123", ""},
     };
     for (const Case& c : cases) {
-        testhost::Tracing tracing;
+        testhost::clear();
         EXPECT_EQ(facade->makeCanonicalNumber(c.rules, c.typed, "", c.withExternalPrefix), c.expected)
             << "typed '" << c.typed << "'";
-        EXPECT_TRUE(c.traced == nullptr || testhost::logged(c.traced)) << c.traced;
         // A failure writes one error line; an outside-line prefix that cannot be removed writes none.
         const int errors = c.expected.empty() && !c.withExternalPrefix ? 1 : 0;
         EXPECT_EQ(testhost::countLogged("makeCanonicalNumber exception: "), errors) << c.typed;
@@ -298,9 +279,7 @@ TEST_F(CanonicalNumber, ServiceCharactersAndTheErrorLine) {
 }
 
 TEST_F(CanonicalNumber, OperatorPrefixKeptOnlyForTheOwnCountry) {
-    testconfig::write("tz310cnp_57.properties", "OP_DEFAULT = 9\nOP_0000 = 4\nOP_0001 = 7\n");
-    testconfig::reload();
-    facade = KesNumberingRules::getInstance();
+    use("tz310cnp_57.properties", "OP_DEFAULT = 9\nOP_0000 = 4\nOP_0001 = 7\n");
     KesDialRulesItem bogota("CO", "0", 0, "1", 0, "");
     // Nine digits fit no Colombian shape: the plan returns the national form as it came.
     EXPECT_EQ(facade->makeCanonicalNumber(&bogota, "00 4 57 1 234567", ""), "041234567");
@@ -308,7 +287,7 @@ TEST_F(CanonicalNumber, OperatorPrefixKeptOnlyForTheOwnCountry) {
 }
 
 TEST_F(CanonicalNumber, PatternLaysOutInternationalResultsOnly) {
-    useMasks("Mask_46_1 = +C (a) xxx xxx xx\n");
+    use("dlr_cnp_mask.properties", "Mask_46_1 = +C (a) xxx xxx xx\n");
     KesDialRulesItem rules = facadeworld::stockholm();
     EXPECT_EQ(facade->makeCanonicalNumber(&rules, "+46 8 12345678", ""), "+46 (8) 123 456 78");
     EXPECT_EQ(facade->makeCanonicalNumber(&rules, "+46 8 12345678", "+C A xxxxxxxx"), "+46 8 12345678");
@@ -404,7 +383,7 @@ TEST_F(CanonicalForms, MaskLetters) {
     };
     for (const auto& c : cases)
         EXPECT_EQ(facade->formatCanonicalNumber(c[0], c[1]), c[2]) << c[0] << " / " << c[1];
-    useMasks("Mask_33_1 = +C (a) xx xx xx xx\nMask_33_2 = C A\n");
+    use("dlr_cnp_mask.properties", "Mask_33_1 = +C (a) xx xx xx xx\nMask_33_2 = C A\n");
     EXPECT_EQ(facade->formatCanonicalNumber("+33 (1) 23456789", ""), "+33 (1) 23 45 67 89");
     // No mask for the country: the empty mask keeps only the subscriber number.
     EXPECT_EQ(facade->formatCanonicalNumber("+39 (06) 12345678", ""), "12345678");
@@ -437,8 +416,7 @@ TEST_F(CanonicalForms, GsmForm) {
         // A national prefix written in parentheses is dropped, only when it is exactly the country's.
         {"+46 (0) 812345678", "+46812345678"},
         {"+46 (01) 2345", "+46012345"},
-        // Italy has no national prefix, and an unknown country none known: the "0" stays.
-        {"+39 (0) 612345", "+390612345"},
+        // An unknown country has no national prefix known: the "0" stays.
         {"+999 (0) 1234", "+99901234"},
         // Blanks and separators a mask put into the subscriber part go.
         {"+46 (8) 12-34.5", "+46812345"},
@@ -448,25 +426,11 @@ TEST_F(CanonicalForms, GsmForm) {
     for (const auto& c : cases)
         EXPECT_EQ(facade->formatToGSMCanonicalNumber(c[0]), c[1]) << c[0];
 
+    // Typed: a local number comes back as the canonical conversion left it.
     KesDialRulesItem rules = facadeworld::stockholm(5);
-    const std::string typed[][2] = {
-        {"08 123 456 78", "+46812345678"},
-        // Italy writes no area code, so there are no parentheses to compact.
-        {"00 39 06 1234", "+39 061234"},
-        // Local numbers and service codes come back as the canonical conversion left them.
-        {"1234", "1234"},
-        {"*21#", "*21#"},
-        {"0123x", ""},
-    };
-    for (const auto& c : typed)
-        EXPECT_EQ(facade->makeGSMCanonicalNumber(&rules, c[0], false), c[1]) << c[0];
+    EXPECT_EQ(facade->makeGSMCanonicalNumber(&rules, "08 123 456 78", false), "+46812345678");
+    EXPECT_EQ(facade->makeGSMCanonicalNumber(&rules, "1234", false), "1234");
     EXPECT_EQ(facade->makeGSMCanonicalNumber(&rules, "008 123 456 78", true), "+46812345678");
-
-    testhost::Tracing tracing;
-    facade->formatToGSMCanonicalNumber("+46 8");
-    EXPECT_TRUE(
-        testhost::logged("DEBUG N9numbering17KesNumberingRulesE - formatToGSMCanonicalNumber('+46 8'"));
-    EXPECT_TRUE(testhost::logged("Can't apply pattern to number : '+46 8'"));
 }
 
 // From Paris, "00" abroad, "0" before an area code, the empty local rule in its own areas.
@@ -480,38 +444,26 @@ TEST_F(DialableNumber, ChoosesInternationalLongDistanceOrLocal) {
         {&paris, "+33 (1) 40 12 34 56", "40123456"},
         {&paris, "+33 (4) 76 11 22 33", "0476112233"},
         {&paris, "+49 (89) 123456", "004989123456"},
-        {&paris, "+48 (0) 22 123 45 67", "0048221234567"}, // the national prefix is not dialled
-        {&paris, "+33 40123456", "040123456"},             // no parentheses: no area code
-        {&paris, "+33 (1 40123456", "0140123456"},         // "(" alone: every digit is subscriber
-        {&paris, " 33 (1) 40123456", "40123456"},          // a leading blank reads as a "+"
-        {&otherAreas, "+33 (1) 40123456", "0140123456"},
+        {&paris, "+33 40123456", "040123456"},     // no parentheses: no area code
+        {&paris, "+33 (1 40123456", "0140123456"}, // "(" alone: every digit is subscriber
+        {&paris, " 33 (1) 40123456", "40123456"},  // a leading blank reads as a "+"
         {&otherAreas, "+33 (3) 40123456", "40123456"},
         {&paris, "0140123456", "0140123456"}, // not canonical: passes through
-        {&paris, "*12", "*12"},
         // Thirty characters or no subscriber number give nothing.
         {&paris, twentyNine, "04" + std::string(21, '7')},
         {&paris, twentyNine + "9", ""},
-        {&paris, "+33 ()", ""},
         {&paris, "+33 (1)", ""},
     };
     for (const Case& c : cases)
         EXPECT_EQ(facade->makeDialableNumber(c.rules, c.canonical), c.dialled) << c.canonical;
     EXPECT_THROW(facade->makeDialableNumber(&paris, ""), std::out_of_range);
-
-    testhost::Tracing tracing;
-    facade->makeDialableNumber(&paris, "+49 (89) 123456");
-    EXPECT_TRUE(testhost::logged("makeDialableNumber('FR', '1', '+49 (89) 123456')"));
-    EXPECT_TRUE(testhost::logged("Country : '49', Area/Nat Pfx : '89', Number : '123456'"));
-    EXPECT_TRUE(testhost::logged("KesNumberingRules : makePhoneNumber International"));
 }
 
 // An installation country the rules do not know: nothing can be dialled differently.
 TEST_F(DialableNumber, UnknownInstallationCountryDialsTheCanonicalForm) {
     KesDialRulesItem unknown;
     unknown.setAreaCode("1");
-    testconfig::write("dialingrules.properties", "SE = 46:00:EF:0F::Sweden:P\n");
-    testconfig::reload();
-    facade = KesNumberingRules::getInstance();
+    use("dialingrules.properties", "SE = 46:00:EF:0F::Sweden:P\n");
     EXPECT_EQ(facade->makeDialableNumber(&unknown, "+33 (1) 40123456"), "+33 (1) 40123456");
 }
 
@@ -522,7 +474,6 @@ TEST_F(DialableNumber, PrefixNeededUnlessShortOrException) {
         {"1234", true},  // as long as a local number
         {"1125", false}, // an exception
         {"0112", true},  // exceptions are told by their leading digits
-        {"040123456", true},
     };
     for (const auto& c : cases)
         EXPECT_EQ(facade->isPrefixNeeded(&rules, c.first), c.second) << c.first;
@@ -570,7 +521,6 @@ TEST_F(PhoneNumber, DialledFormsOfTypedNumbers) {
         {&nine, true, "*12#0", "9*12#0"},
         {&nine, true, "08 12x", ""},
         {&nine, true, " +46 8 12345678", ""}, // not trimmed: a blank before "+" makes no phone number
-        {&paris, false, "+34 (91) 123456", "0003491123456"}, // abroad, to a country without a plan
     };
     for (const Case& c : cases) {
         const std::string dialled = c.addPrefixOnly ? facade->addExternalPrefix(c.rules, c.typed)

@@ -137,6 +137,12 @@ inline void reload() {
     KesNumberingRules::resetInstance();
 }
 
+/// `fileName` written with `content`, then the configuration read again.
+inline void reloadWith(const std::string& fileName, const std::string& content) {
+    write(fileName, content);
+    reload();
+}
+
 /// Enough countries for the conversions under test, with Canada sharing +1.
 inline const char* const STANDARD_DIALING_RULES = "AR = 54:00:EF:0F::Argentina:P\n"
                                                   "AT = 43:00:EF:0F::Austria:P\n"
