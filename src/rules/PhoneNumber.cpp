@@ -49,16 +49,6 @@ bool prefixNeeded(KesNumberingRules& facade, KesDialRulesItem* rules, const std:
     return facade.isPrefixNeeded(rules, dial);
 }
 
-/// `ext` + `dial`, in a recycled string when long.
-std::string prefixed(const std::string& ext, std::string dial) {
-    TextCollector joined;
-    joined.append(ext);
-    joined.append(dial);
-    std::string result = joined.str();
-    recycleString(std::move(dial));
-    return result;
-}
-
 /// The outside-line prefix decision shared by makePhoneNumber and addExternalPrefix: the prefix
 /// goes in front when the installation's rules want it. A number the user explicitly dialled with
 /// the prefix keeps it even where the rules would not add it (a short number, an exception).
@@ -68,11 +58,9 @@ std::string withExternalPrefix(KesNumberingRules& facade, KesDialRulesItem* rule
         return dial;
     if (KesExplanation* e = explaining())
         explainExternalPrefix(*e, *rules, ext, hadPrefix, dial);
-    if (prefixNeeded(facade, rules, dial))
-        return prefixed(ext, std::move(dial));
-    if (!hadPrefix || startsWith(dial, ext))
-        return dial;
-    return prefixed(ext, std::move(dial));
+    if (prefixNeeded(facade, rules, dial) || (hadPrefix && !startsWith(dial, ext)))
+        dial.insert(0, ext);
+    return dial;
 }
 
 /// The digits that dial `number` from the installation: its canonical form, dialled; "" when it has
@@ -83,8 +71,10 @@ std::string dialledForm(KesNumberingRules& facade, KesDialRulesItem* rules, cons
     return canonical.empty() ? canonical : facade.makeDialableNumber(rules, std::move(canonical));
 }
 
+/// Digits first, as the conversions read a number: most of its characters are digits.
 bool containsServiceCharacter(const std::string& number) {
-    return std::any_of(number.begin(), number.end(), isServiceCharacter);
+    return std::any_of(number.begin(), number.end(),
+                       [](char c) { return !isDigit(c) && isServiceCharacter(c); });
 }
 
 /// What makePhoneNumber and addExternalPrefix do around their conversion: the argument checks, a
