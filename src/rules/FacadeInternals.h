@@ -34,24 +34,27 @@ inline void traceExtract(const char* operation, std::string_view canonical) {
         traceExtractLine(operation, canonical);
 }
 
+/// Whether the installation's tests may be answered from the library's own rules without copies of
+/// the number: a host's subclass, or a trace, needs the virtual tests and their lines.
+inline bool answeredDirectly(KesDialRulesItem& rules) {
+    return !Logger::m_Traces && typeid(rules) == typeid(KesDialRulesItem);
+}
+
 /// Whether the outside-line prefix goes in front of `number` under the installation's `rules`:
 /// internal extensions (shorter than the local number length) never take it, nor do the
 /// installation's exception numbers. A number exactly as long as a local number does.
 inline bool outsideLinePrefixNeeded(KesDialRulesItem& rules, const std::string& number) {
+    if (answeredDirectly(rules))
+        return !rules.isLocalOrExceptionNumber(number);
     if (static_cast<long>(number.size()) < rules.getLocalNbLength())
         return false;
-    // The library's own rules answer without a copy of the number; a host's subclass, or a trace,
-    // needs the virtual test.
-    if (!Logger::m_Traces && typeid(rules) == typeid(KesDialRulesItem))
-        return !rules.beginsWithExceptionDigits(number);
     return !rules.isExceptionNumber(number);
 }
 
 /// Whether `number` is a local or exception number of the installation dialled without the
-/// outside-line prefix, which the canonical conversion leaves alone. As above, the library's own
-/// rules answer without copies.
+/// outside-line prefix, which the canonical conversion leaves alone.
 inline bool dialledInside(KesDialRulesItem& rules, const std::string& number) {
-    if (!Logger::m_Traces && typeid(rules) == typeid(KesDialRulesItem))
+    if (answeredDirectly(rules))
         return rules.isLocalOrExceptionNumber(number) && !startsWith(number, rules.extPrefixText());
     return (rules.isLocalNumber(number) || rules.isExceptionNumber(number)) &&
            !startsWith(number, rules.getExtPrefix());
